@@ -1,0 +1,33 @@
+#pragma once
+
+#include "SyndicatedParser/SyndicatedSessionError.hpp"
+
+#include <memory>
+#include <optional>
+#include <variant>
+#include <vector>
+
+namespace brindle {
+
+class FeedItem;
+class FeedItemArticle;
+
+/// What a feed failed with: the network's error, or the session's own.
+using FeedItemError = std::variant<URLError, SyndicatedSessionError>;
+
+/// Receives what feeds learn, on the main thread.
+class FeedItemDelegate {
+public:
+    virtual ~FeedItemDelegate() = default;
+    /// `newArticles` may be empty.
+    virtual void feedItemDidFinishParsing(FeedItem& feedItem, const std::vector<std::shared_ptr<FeedItemArticle>>& newArticles) = 0;
+    /// The items belong to no library yet.
+    virtual void feedItemDidDiscoverFeedItems(FeedItem& feedItem, const std::vector<std::shared_ptr<FeedItem>>& feedItems) = 0;
+    virtual void feedItemDidFail(FeedItem& feedItem, const std::optional<FeedItemError>& error) = 0;
+    virtual void feedItemHasImageData(FeedItem&) {}
+    virtual void feedItemIsInvalid(FeedItem&) {}
+    /// A search for the feed's icon that was begun has ended, found or not.
+    virtual void feedItemDidEndIconDiscovery(FeedItem&) {}
+};
+
+} // namespace brindle
