@@ -6,8 +6,9 @@
 
 namespace brindle {
 
-/// A queue of blocks. A serial queue runs one block at a time, in order, on some thread of one small pool that all queues share, so that queues are cheap; the main queue
-/// runs its blocks on the main run loop. Blocks that were posted run even when the queue's handle is gone. Thread: any; a value.
+/// A queue of blocks. A serial queue runs one block at a time, in order, on some thread of one small pool that all queues share, so that
+/// queues are cheap; the main queue runs its blocks on the main run loop. Blocks that were posted run even when the queue's handle is gone.
+/// Thread: any; a value.
 class DispatchQueue {
 public:
     using Block = std::function<void()>;
@@ -26,7 +27,7 @@ public:
 
 private:
     struct State;
-    explicit DispatchQueue(std::shared_ptr<State> state) : _state(std::move(state)) {}
+    static void runNext(const std::shared_ptr<State>& state);
 
     std::shared_ptr<State> _state;
 };

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "foundation/FileManager.hpp"
+#include "foundation/FileError.hpp"
 
 #include <filesystem>
 #include <optional>
@@ -8,7 +8,8 @@
 
 namespace brindle {
 
-/// An exclusive lock on a folder between processes, held by a file in it until this object, or the process, ends. Thread: any; a movable value.
+/// An exclusive lock on a folder between processes, held by a file in it until this object, or the process, ends. Thread: any; a movable
+/// value.
 class FileLock {
 public:
     /// Absent when another process (or another lock of this one) holds it; an error when the file can't be made. Never waits.

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "foundation/FileError.hpp"
+
 #include <filesystem>
 #include <optional>
 #include <string>
@@ -9,14 +11,8 @@
 
 namespace brindle {
 
-/// A file operation that failed: what the system said, in a short sentence with the path.
-struct FileError {
-    int code = 0; ///< errno
-    std::string message;
-};
-
-/// Files. Reads take whole files; writes go to a temporary name in the same folder, are synced and renamed, so that a file is either the old or the new one,
-/// whole. Thread: any.
+/// Files. Reads take whole files; writes go to a temporary name in the same folder, are synced and renamed, so that a file is either the
+/// old or the new one, whole. Thread: any.
 class FileManager {
 public:
     static bool fileExists(const std::filesystem::path& path);

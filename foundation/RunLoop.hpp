@@ -17,8 +17,8 @@ public:
     virtual Time now() const = 0;
 };
 
-/// The main thread's loop: blocks posted from any thread, and timers. A program that has an event loop of its own instead installs a wake handler, and calls `runPending`
-/// when woken and when `nextDeadline` is due. Thread: main, but for `perform`, `wakeUp` and `stop`.
+/// The main thread's loop: blocks posted from any thread, and timers. A program that has an event loop of its own instead installs a wake
+/// handler, and calls `runPending` when woken and when `nextDeadline` is due. Thread: main, but for `perform`, `wakeUp` and `stop`.
 class RunLoop {
 public:
     using Block = std::function<void()>;
@@ -64,7 +64,8 @@ private:
 
     RunLoop();
     Time now() const;
-    void add(const std::shared_ptr<Timer>& timer);
+    void add(Timer& timer);
+    void remove(Timer& timer);
     void waitForWork(Time limit);
     bool fireTimers();
 
