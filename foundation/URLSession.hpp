@@ -8,6 +8,7 @@
 #include <map>
 #include <memory>
 #include <optional>
+#include <set>
 #include <string>
 #include <string_view>
 
@@ -18,7 +19,17 @@ class URLSessionDataTask;
 
 /// Why a task ended without an answer. `description` is one sentence for people, in English.
 struct URLError {
-    enum class Code { cancelled, badURL, unsupportedURL, timedOut, cannotConnect, connectionLost, secureConnectionFailed, tooManyRedirects, other };
+    enum class Code {
+        cancelled,
+        badURL,
+        unsupportedURL,
+        timedOut,
+        cannotConnect,
+        connectionLost,
+        secureConnectionFailed,
+        tooManyRedirects,
+        other
+    };
 
     Code code = Code::other;
     std::string description;
@@ -47,19 +58,26 @@ struct URLAuthenticationChallenge {
     std::string realm;
 };
 
-enum class URLAuthenticationChallengeDisposition { useCredential, performDefaultHandling, cancelAuthenticationChallenge, rejectProtectionSpace };
+enum class URLAuthenticationChallengeDisposition {
+    useCredential,
+    performDefaultHandling,
+    cancelAuthenticationChallenge,
+    rejectProtectionSpace
+};
 
 /// Receives what happens to the tasks of one session, on the main thread. Every task ends with exactly one `didComplete`.
 class URLSessionDelegate {
 public:
     using RedirectHandler = std::function<void(std::optional<URLRequest> request)>;
-    using ChallengeHandler = std::function<void(URLAuthenticationChallengeDisposition disposition, std::optional<URLCredential> credential)>;
+    using ChallengeHandler =
+        std::function<void(URLAuthenticationChallengeDisposition disposition, std::optional<URLCredential> credential)>;
 
     virtual ~URLSessionDelegate() = default;
     virtual void didReceiveData(URLSessionDataTask& task, std::string_view data) = 0;
     /// `error` is absent when the whole body has come, whatever its status.
     virtual void didComplete(URLSessionDataTask& task, const std::optional<URLError>& error) = 0;
-    /// Answer with the request to follow, or with none to take the redirect's own body as the answer. Once, at any time, on the main thread.
+    /// Answer with the request to follow, or with none to take the redirect's own body as the answer. Once, at any time, on the main
+    /// thread.
     virtual void willPerformRedirection(
         URLSessionDataTask& task, const URLResponse& response, const URLRequest& newRequest, RedirectHandler completionHandler) = 0;
     virtual void didReceiveChallenge(const URLAuthenticationChallenge& challenge, ChallengeHandler completionHandler) = 0;
@@ -88,34 +106,34 @@ private:
     friend class URLSession;
     friend class URLSessionEngine;
     URLSessionDataTask(std::weak_ptr<URLSession> session, URL url) : _session(std::move(session)), _url(std::move(url)) {}
+    void send(const URL& url);
+    /// Marks the task as ended and lets its session forget it; false when it had ended before.
     bool finish();
 
     std::weak_ptr<URLSession> _session;
     URL _url;
     std::optional<URLResponse> _response;
-    std::uint64_t _identifier = 0; ///< the engine's; 0 before `resume`
+    std::uint64_t _identifier = 0; ///< of the request under way; 0 before `resume`
     bool _ended = false;
 };
 
-/// GETs over http and https, with no cookies, no cache and nothing kept but open connections, names and TLS sessions, which all sessions of the process share. Certificates are always checked.
-/// Bodies come unpacked (gzip, deflate, brotli). At most 64 transfers are at work at once and 6 for each host; the rest wait in line, and a transfer that
-/// stays silent makes room for one that has not begun yet. Thread: main.
+/// GETs over http and https, with no cookies, no cache and nothing kept but open connections, names and TLS sessions, which all sessions of
+/// the process share. Certificates are always checked. Bodies come unpacked (gzip, deflate, brotli). At most 64 transfers are at work at
+/// once and 6 for each host; the rest wait in line, and a transfer that stays silent makes room for one that has not begun yet. Thread:
+/// main.
 class URLSession : public std::enable_shared_from_this<URLSession> {
 public:
     static constexpr int maximumTransfers = 64;
     static constexpr int maximumTransfersPerHost = 6;
 
-    /// The delegate is held until the session is invalidated or gone.
+    /// Holds the delegate for as long as it lives. A session that is dropped with tasks under way ends them without a word.
     static std::shared_ptr<URLSession> make(URLSessionConfiguration configuration, std::shared_ptr<URLSessionDelegate> delegate);
     ~URLSession();
 
     std::shared_ptr<URLSessionDataTask> dataTask(const URL& url);
 
-    /// Cancels every task (each ends with `cancelled`) and lets the delegate go afterwards.
+    /// Cancels every task (each ends with `cancelled`) and takes no more.
     void invalidateAndCancel();
-
-    /// Ends the network thread, which fails all that is under way without a word to anyone. For the end of the process.
-    static void shutDownEngine();
 
 private:
     friend class URLSessionDataTask;
@@ -124,7 +142,7 @@ private:
 
     URLSessionConfiguration _configuration;
     std::shared_ptr<URLSessionDelegate> _delegate;
-    std::map<std::uint64_t, std::shared_ptr<URLSessionDataTask>> _tasks; ///< started and not ended
+    std::set<std::shared_ptr<URLSessionDataTask>> _tasks; ///< started and not ended
     bool _invalid = false;
 };
 
