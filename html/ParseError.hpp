@@ -1,0 +1,74 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string_view>
+
+namespace brindle::html {
+
+/// The parse errors of the HTML standard (section 13.2.2) that arise in the input stream and the tokeniser.
+enum class ParseErrorCode : std::uint8_t {
+    abruptClosingOfEmptyComment,
+    abruptDoctypePublicIdentifier,
+    abruptDoctypeSystemIdentifier,
+    absenceOfDigitsInNumericCharacterReference,
+    cdataInHtmlContent,
+    characterReferenceOutsideUnicodeRange,
+    controlCharacterInInputStream,
+    controlCharacterReference,
+    duplicateAttribute,
+    endTagWithAttributes,
+    endTagWithTrailingSolidus,
+    eofBeforeTagName,
+    eofInCdata,
+    eofInComment,
+    eofInDoctype,
+    eofInScriptHtmlCommentLikeText,
+    eofInTag,
+    incorrectlyClosedComment,
+    incorrectlyOpenedComment,
+    invalidCharacterSequenceAfterDoctypeName,
+    invalidFirstCharacterOfTagName,
+    missingAttributeValue,
+    missingDoctypeName,
+    missingDoctypePublicIdentifier,
+    missingDoctypeSystemIdentifier,
+    missingEndTagName,
+    missingQuoteBeforeDoctypePublicIdentifier,
+    missingQuoteBeforeDoctypeSystemIdentifier,
+    missingSemicolonAfterCharacterReference,
+    missingWhitespaceAfterDoctypePublicKeyword,
+    missingWhitespaceAfterDoctypeSystemKeyword,
+    missingWhitespaceBeforeDoctypeName,
+    missingWhitespaceBetweenAttributes,
+    missingWhitespaceBetweenDoctypePublicAndSystemIdentifiers,
+    nestedComment,
+    noncharacterCharacterReference,
+    noncharacterInInputStream,
+    nullCharacterReference,
+    surrogateCharacterReference,
+    surrogateInInputStream,
+    unexpectedCharacterAfterDoctypeSystemIdentifier,
+    unexpectedCharacterInAttributeName,
+    unexpectedCharacterInUnquotedAttributeValue,
+    unexpectedEqualsSignBeforeAttributeName,
+    unexpectedNullCharacter,
+    unexpectedQuestionMarkInsteadOfTagName,
+    unexpectedSolidusInTag,
+    unknownNamedCharacterReference,
+};
+
+/// The standard's own name of an error, such as "eof-in-tag".
+std::string_view parseErrorName(ParseErrorCode code) noexcept;
+
+/// One error with the place of the character at which it was noticed.
+struct ParseError {
+    ParseErrorCode code = ParseErrorCode::eofInTag;
+    std::size_t offset = 0; ///< Bytes from the start of the text, after a byte order mark and with line ends made line feeds.
+    std::size_t line = 1;   ///< From 1.
+    std::size_t column = 1; ///< In code points, from 1.
+
+    std::string_view name() const noexcept { return parseErrorName(code); }
+};
+
+} // namespace brindle::html

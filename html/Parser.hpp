@@ -1,0 +1,47 @@
+#pragma once
+
+#include <cstddef>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "html/Document.hpp"
+#include "html/ParseError.hpp"
+#include "html/ParseSettings.hpp"
+#include "html/TreeBuilder.hpp"
+
+namespace brindle::html {
+
+/// How texts are read: a tree builder, what it does with names, and how many errors it keeps. By one thread at a time.
+class Parser {
+public:
+    Parser(std::unique_ptr<TreeBuilder> treeBuilder, ParseSettings settings);
+
+    /// A parser with an `XmlTreeBuilder` that keeps the case of all names.
+    static Parser xmlParser();
+
+    const ParseSettings& settings() const noexcept { return _settings; }
+    void setSettings(ParseSettings settings) noexcept { _settings = settings; }
+
+    /// How many errors of a parse are kept; none by default.
+    std::size_t maxErrors() const noexcept { return _maxErrors; }
+    void setMaxErrors(std::size_t maxErrors) noexcept { _maxErrors = maxErrors; }
+
+    /// The errors of the last parse, in the order of the text.
+    const std::vector<ParseError>& errors() const noexcept { return _errors; }
+
+    /// Makes the document of `text`, which is UTF-8; the base URI is for relative addresses and may be empty.
+    /// Throws `Error` on an internal failure only.
+    std::unique_ptr<Document> parse(std::string text, std::string baseURI);
+
+private:
+    std::unique_ptr<TreeBuilder> _treeBuilder;
+    std::size_t _maxErrors = 0;
+    std::vector<ParseError> _errors;
+    ParseSettings _settings;
+};
+
+/// Makes the document of `text` with `parser`, as `Parser::parse` does.
+std::unique_ptr<Document> parse(std::string text, std::string baseURI, Parser& parser);
+
+} // namespace brindle::html
