@@ -19,7 +19,8 @@ public:
 
     const std::vector<std::shared_ptr<Feed>>& feeds() const { return _feeds; }
 
-    /// Inserts `feed` at `index`, or at the end for an index outside 0 to the count, and becomes its parent. The entry is not taken out of an earlier parent.
+    /// Inserts `feed` at `index`, or at the end for an index outside 0 to the count, and becomes its parent. The entry is not taken out of
+    /// an earlier parent.
     void add(const std::shared_ptr<Feed>& feed, std::ptrdiff_t index);
     /// Takes out the first entry that is `feed` and empties its parent; nothing where it is no child.
     void remove(const std::shared_ptr<Feed>& feed);

@@ -20,7 +20,8 @@ namespace brindle {
 /// Read state by article key: 1 is read, every other value unread.
 using ArticleStateCache = std::unordered_map<std::string, std::int64_t>;
 
-/// One subscribed feed: its session, its timer, the articles of the latest good parse, and the table by which new and read articles are told. Thread: main, but for the two questions that the session asks on its queue.
+/// One subscribed feed: its session, its timer, the articles of the latest good parse, and the table by which new and read articles are
+/// told. Thread: main, but for the two questions that the session asks on its queue.
 class FeedItem : public Feed, public SyndicatedSessionDelegate {
 public:
     static constexpr std::int64_t defaultUpdateRate = 30; ///< minutes
@@ -33,11 +34,11 @@ public:
     ~FeedItem() override;
 
     std::weak_ptr<FeedItemDelegate> delegate;
-    UUID uuid = UUID::random();       ///< names the feed's files
-    std::int64_t updateRate;          ///< minutes
-    std::string username;             ///< archived, never sent
-    std::string password;             ///< never archived, never sent
-    std::string data;                 ///< the document of the latest good fetch; empty when there is none
+    UUID uuid = UUID::random(); ///< names the feed's files
+    std::int64_t updateRate;    ///< minutes
+    std::string username;       ///< archived, never sent
+    std::string password;       ///< never archived, never sent
+    std::string data;           ///< the document of the latest good fetch; empty when there is none
     ArticleStateCache articleStateCache;
 
     /// The stored name; where that is empty, the title of the feed as parsed.
@@ -49,8 +50,8 @@ public:
     const std::optional<std::string>& feedImageData() const { return _feedImageData; }
     void setFeedImageData(std::optional<std::string> data);
 
-    /// Replaces the timer by a new one of `updateRate`, whose first shot comes after a whole period, and fetches at once when `fetchNow`. The only way a feed starts. Fatal
-    /// when the rate in seconds does not fit.
+    /// Replaces the timer by a new one of `updateRate`, whose first shot comes after a whole period, and fetches at once when `fetchNow`.
+    /// The only way a feed starts. Fatal when the rate in seconds does not fit.
     void scheduleUpdates(bool fetchNow);
     /// Ends and drops the timer.
     void invalidateTimer();
@@ -77,16 +78,17 @@ public:
     void syndicatedSessionDidEndIconDiscovery(SyndicatedSession& session) override;
 
 private:
-    FeedItem(std::string name, std::int64_t rate, std::string user, std::string pass, const SyndicatedSessionEnvironment& environment);
+    FeedItem(
+        std::string name, URL url, std::int64_t rate, std::string user, std::string pass, const SyndicatedSessionEnvironment& environment);
     std::shared_ptr<FeedItem> shared();
-    void refreshCache();
 
     SyndicatedSessionEnvironment _environment;
     std::shared_ptr<SyndicatedSession> _session;
     std::shared_ptr<Timer> _timer;
     std::vector<std::shared_ptr<FeedItemArticle>> _articles; ///< in the feed's order
     std::optional<std::string> _feedImageData;
-    /// What the icon question is answered from, on any thread: when an icon last arrived (microseconds since 1970, none: the minimum), and whether one is held.
+    /// What the icon question is answered from, on any thread: when an icon last arrived (microseconds since 1970, none: the minimum), and
+    /// whether one is held.
     std::atomic<std::int64_t> _imageDiscoveryTime;
     std::atomic<bool> _holdsImage = false;
 };

@@ -11,7 +11,8 @@ namespace brindle {
 
 class FeedItem;
 
-/// An entry with the feed it came from. Made anew at each parse, so its identity lasts until the next update of its feed; across updates an article is known by its key. Thread: main.
+/// An entry with the feed it came from. Made anew at each parse, so its identity lasts until the next update of its feed; across updates an
+/// article is known by its key. Thread: main.
 class FeedItemArticle : public Coding {
 public:
     FeedItemArticle(std::shared_ptr<SyndicatedEntry> articleEntry, std::weak_ptr<FeedItem> item);

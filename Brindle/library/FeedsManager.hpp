@@ -24,7 +24,8 @@ public:
     using Feeds = std::vector<std::shared_ptr<Feed>>;
 
     /// `supportDirectory` holds the library's files; `delegate` is attached to every feed of the library.
-    FeedsManager(std::filesystem::path supportDirectory, SyndicatedSessionEnvironment environment, std::weak_ptr<FeedItemDelegate> delegate);
+    FeedsManager(
+        std::filesystem::path supportDirectory, SyndicatedSessionEnvironment environment, std::weak_ptr<FeedItemDelegate> delegate);
 
     Feeds feeds; ///< the top level, in the user's order
     /// The global switch; assigning it does nothing until `applyUpdateState` walks.
@@ -53,7 +54,11 @@ public:
     void attachDelegates(const Feeds& list);
     void applyUpdateState(const Feeds& list);
     void clearImages(const Feeds& list);
+    /// Removes the folders of the feeds' files; what is in memory stays. Kept as is: until the folders are made again, saving leaves those
+    /// files out.
     void resetCaches();
+    /// Removes the files of one feed.
+    void resetCaches(const FeedItem& item);
 
     const SyndicatedSessionEnvironment& environment() const { return _environment; }
     const std::weak_ptr<FeedItemDelegate>& delegate() const { return _delegate; }
@@ -62,9 +67,7 @@ public:
 private:
     void loadLegacyLibrary(const std::filesystem::path& file);
     void loadLibrary();
-    void append(const std::vector<std::shared_ptr<Feed>>& list);
-    void loadFeedFiles(const Feeds& list);
-    void saveFeedFiles(const Feeds& list) const;
+    void append(const Feeds& list);
 
     std::filesystem::path _supportDirectory;
     SyndicatedSessionEnvironment _environment;
