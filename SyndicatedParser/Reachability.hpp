@@ -1,8 +1,10 @@
 #pragma once
 
+#include "SyndicatedParser/NetworkRoute.hpp"
 #include "foundation/DispatchQueue.hpp"
 #include "foundation/NotificationCenter.hpp"
 
+#include <atomic>
 #include <cstdint>
 #include <functional>
 #include <memory>
@@ -12,41 +14,21 @@
 
 namespace brindle {
 
-/// What is known of the default network route.
-struct NetworkReachabilityFlags {
-    static constexpr std::uint32_t transientConnection = 1;
-    static constexpr std::uint32_t reachable = 2;
-    static constexpr std::uint32_t connectionRequired = 4;
-    static constexpr std::uint32_t connectionOnTraffic = 8;
-    static constexpr std::uint32_t interventionRequired = 16;
-    static constexpr std::uint32_t connectionOnDemand = 32;
-    static constexpr std::uint32_t isLocalAddress = 1U << 16;
-    static constexpr std::uint32_t isDirect = 1U << 17;
-};
-
-/// Where a monitor's flag word comes from: the platform's view of the default route. Thread: any.
-class NetworkRoute {
-public:
-    using Callback = std::function<void(std::uint32_t flags)>;
-
-    virtual ~NetworkRoute() = default;
-    /// The present flag word, or the platform's error code.
-    virtual tl::expected<std::uint32_t, std::int32_t> flags() = 0;
-    /// Calls `callback` on `queue` when the word may have changed; an empty callback ends that. An error code where watching is impossible.
-    virtual tl::expected<void, std::int32_t> setCallback(const DispatchQueue& queue, Callback callback) = 0;
-};
-
-/// The default route by the kernel's routing table (rtnetlink). All handles share one watcher of the process.
-std::shared_ptr<NetworkRoute> makeDefaultRoute();
-
 struct ReachabilityError {
-    enum class Case { failedToCreateWithAddress, failedToCreateWithHostname, unableToSetCallback, unableToSetDispatchQueue, unableToGetFlags };
+    enum class Case {
+        failedToCreateWithAddress,
+        failedToCreateWithHostname,
+        unableToSetCallback,
+        unableToSetDispatchQueue,
+        unableToGetFlags
+    };
 
     Case kind = Case::unableToGetFlags;
     std::int32_t code = 0;
 };
 
-/// Watches whether the machine has a route to the internet at all, and tells when that changes. Thread: any; changes are announced on the queue given.
+/// Watches whether the machine has a route to the internet at all, and tells when that changes. Thread: any; changes are announced on the
+/// queue given.
 class Reachability : public std::enable_shared_from_this<Reachability> {
 public:
     enum class Connection { none, unavailable, wifi, cellular };
@@ -73,10 +55,16 @@ public:
     std::function<void(Reachability&)> whenUnreachable;
 
 private:
-    struct State;
     Reachability(std::shared_ptr<NetworkRoute> route, std::optional<DispatchQueue> notificationQueue);
+    tl::expected<void, ReachabilityError> readFlags();
+    void store(std::uint32_t flags);
+    void announceChange();
 
-    std::shared_ptr<State> _state;
+    const std::shared_ptr<NetworkRoute> _route;
+    const std::optional<DispatchQueue> _notificationQueue;
+    const DispatchQueue _reachabilitySerialQueue; ///< flags are read here and changes come here
+    std::atomic<std::int64_t> _flags;             ///< -1 until first read; written on the serial queue, read anywhere
+    NetworkRoute::Watch _watch;                   ///< present while the notifier runs
 };
 
 } // namespace brindle

@@ -22,8 +22,8 @@ namespace brindle {
 
 class SyndicatedSession;
 
-/// Receives what a session finds. All on the main thread, but for `shouldDiscoverFeeds` and `shouldDiscoverIcon`, which are asked on the session's
-/// queue and must be safe there.
+/// Receives what a session finds. All on the main thread, but for `shouldDiscoverFeeds` and `shouldDiscoverIcon`, which are asked on the
+/// session's queue and must be safe there.
 class SyndicatedSessionDelegate {
 public:
     virtual ~SyndicatedSessionDelegate() = default;
@@ -33,11 +33,13 @@ public:
     virtual bool syndicatedSessionShouldCancelAuthentication(SyndicatedSession& session) = 0;
     virtual void syndicatedSessionDidDetectKind(SyndicatedSession& session, SyndicatedFeedKind kind) = 0;
     virtual bool syndicatedSessionShouldDiscoverFeeds() = 0;
-    virtual void syndicatedSessionDidDiscoverFeeds(SyndicatedSession& session, const std::vector<std::shared_ptr<SyndicatedFeed>>& feeds) = 0;
+    virtual void syndicatedSessionDidDiscoverFeeds(
+        SyndicatedSession& session, const std::vector<std::shared_ptr<SyndicatedFeed>>& feeds) = 0;
     virtual bool syndicatedSessionShouldDiscoverIcon() = 0;
     virtual void syndicatedSessionDidDiscoverIcon(SyndicatedSession& session, const std::string& bytes) = 0;
-    /// An icon search that was begun has ended, found or not; after `syndicatedSessionDidDiscoverIcon`.
-    virtual void syndicatedSessionDidEndIconDiscovery(SyndicatedSession&) {}
+    /// The icon step that follows each good parse is over: not wanted, nothing found, or the icon delivered. Once for each
+    /// `syndicatedSessionDidFinishParsing`.
+    virtual void syndicatedSessionDidEndIconStep(SyndicatedSession&) {}
 };
 
 /// What a session asks of its surroundings.
@@ -48,8 +50,9 @@ struct SyndicatedSessionEnvironment {
     std::shared_ptr<IconDiscovery> iconDiscovery;
 };
 
-/// Turns a feed's URL into a filled `SyndicatedFeed`, again at each `start`: fetches, decodes, detects, parses, follows a page to its only feed, keeps `url` current over redirects, waits while
-/// the network is away, and asks for the icon after a good parse. Reports through its delegate only. Thread: main.
+/// Turns a feed's URL into a filled `SyndicatedFeed`, again at each `start`: fetches, decodes, detects, parses, follows a page to its only
+/// feed, keeps `url` current over redirects, waits while the network is away, and asks for the icon after a good parse. Reports through its
+/// delegate only. Thread: main.
 class SyndicatedSession : public std::enable_shared_from_this<SyndicatedSession> {
 public:
     static constexpr int maximumRedirections = 3;
@@ -77,18 +80,21 @@ public:
     std::weak_ptr<SyndicatedSessionDelegate> delegate;
 
 private:
+    friend class SyndicatedSessionPass;
     class TaskEvents;
-    struct Pass;
 
     SyndicatedSession(URL url, SyndicatedSessionEnvironment environment);
     void watchNetwork();
     void connect();
     void connectWhenReachable();
-    void processData(std::string_view bytes);
-    void finish(Pass& pass);
-    void didDiscoverFeeds(std::vector<std::shared_ptr<SyndicatedFeed>> feeds);
+    void processData(std::string bytes);
+    void willPerformRedirection(const URLRequest& newRequest, const URLSessionDelegate::RedirectHandler& completionHandler);
+    void didReceiveChallenge(const URLAuthenticationChallenge& challenge, const URLSessionDelegate::ChallengeHandler& completionHandler);
+    void answerChallenge(const URLSessionDelegate::ChallengeHandler& completionHandler);
+    void didComplete(const std::optional<URLError>& error);
+    void didDiscoverFeeds(const SyndicatedDiscovery::Feeds& feeds);
     void reachabilityDidChange(const Notification& notification);
-    void fail(SyndicatedSessionError error);
+    void fail(const SyndicatedSessionError& error);
 
     URL _url;
     std::shared_ptr<SyndicatedFeed> _feed;

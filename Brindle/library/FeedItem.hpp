@@ -75,7 +75,7 @@ public:
     void syndicatedSessionDidDiscoverFeeds(SyndicatedSession& session, const std::vector<std::shared_ptr<SyndicatedFeed>>& feeds) override;
     bool syndicatedSessionShouldDiscoverIcon() override;
     void syndicatedSessionDidDiscoverIcon(SyndicatedSession& session, const std::string& bytes) override;
-    void syndicatedSessionDidEndIconDiscovery(SyndicatedSession& session) override;
+    void syndicatedSessionDidEndIconStep(SyndicatedSession& session) override;
 
 private:
     FeedItem(

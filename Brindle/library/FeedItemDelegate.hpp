@@ -26,8 +26,8 @@ public:
     virtual void feedItemDidFail(FeedItem& feedItem, const std::optional<FeedItemError>& error) = 0;
     virtual void feedItemHasImageData(FeedItem&) {}
     virtual void feedItemIsInvalid(FeedItem&) {}
-    /// A search for the feed's icon that was begun has ended, found or not.
-    virtual void feedItemDidEndIconDiscovery(FeedItem&) {}
+    /// The icon step that follows each good parse is over, whatever came of it. Once for each `feedItemDidFinishParsing`.
+    virtual void feedItemDidEndIconStep(FeedItem&) {}
 };
 
 } // namespace brindle

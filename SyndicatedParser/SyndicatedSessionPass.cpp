@@ -1,0 +1,131 @@
+#include "SyndicatedParser/SyndicatedSessionPass.hpp"
+
+#include "SyndicatedParser/FeedParserFactory.hpp"
+#include "foundation/DispatchQueue.hpp"
+
+#include <utility>
+
+namespace brindle {
+
+void SyndicatedSessionPass::begin(SyndicatedSession& session, std::string bytes) {
+    const std::shared_ptr<SyndicatedSessionPass> pass(new SyndicatedSessionPass(session, std::move(bytes)));
+    DispatchQueue(session.url().absoluteString()).async([pass] { pass->run(); });
+}
+
+SyndicatedSessionPass::SyndicatedSessionPass(SyndicatedSession& session, std::string bytes)
+    : _session(session.weak_from_this()), _delegate(session.delegate), _environment(session._environment), _url(session._url),
+      _bytes(std::move(bytes)), _base(session._feed) {}
+
+void SyndicatedSessionPass::run() {
+    DecodedDocument document = decodeDocument(_bytes);
+    _bytes = {};
+    if (document.text.empty())
+        return fail(SyndicatedSessionError::Case::noData);
+    const SyndicatedFeedKind kind = detectFeedKind(document.text);
+    if (kind == SyndicatedFeedKind::unknown)
+        return fail(SyndicatedSessionError::Case::invalidFeed);
+    prepareFeed(kind);
+    if (kind != SyndicatedFeedKind::html) {
+        onMain([kind](SyndicatedSession& session, SyndicatedSessionDelegate* delegate) {
+            if (delegate)
+                delegate->syndicatedSessionDidDetectKind(session, kind);
+        });
+    }
+    parse(kind, std::move(document));
+}
+
+void SyndicatedSessionPass::prepareFeed(SyndicatedFeedKind kind) {
+    const bool isSettled = _base->kind != SyndicatedFeedKind::unknown && _base->kind != SyndicatedFeedKind::html;
+    _feed = isSettled ? std::make_shared<SyndicatedFeed>(*_base) : std::make_shared<SyndicatedFeed>(kind, _environment.clock->now());
+}
+
+void SyndicatedSessionPass::parse(SyndicatedFeedKind kind, DecodedDocument document) {
+    if (kind == SyndicatedFeedKind::html) {
+        if (!ask(false, [](SyndicatedSessionDelegate& delegate) { return delegate.syndicatedSessionShouldDiscoverFeeds(); }))
+            return fail(SyndicatedSessionError::Case::invalidFeed);
+        return discoverFeeds(std::move(document.text));
+    }
+    const auto parser = makeFeedParser(kind, _feed, document.text, document.encoding, _environment.clock);
+    if (!parser)
+        return fail(SyndicatedSessionError::Case::invalidFeed);
+    parser->parse([&](const SyndicatedFeedParserResult& result) { didParse(result, std::move(document.text), document.encoding); });
+}
+
+void SyndicatedSessionPass::didParse(const SyndicatedFeedParserResult& result, std::string data, StringEncoding encoding) {
+    // Kept as is: a parser that reports its failure twice makes the session fail twice.
+    if (!result)
+        return fail(SyndicatedSessionError::Case::invalidFeed);
+    _feed->data = encoding == StringEncoding::utf8 ? std::optional(std::move(data)) : encode(data, encoding);
+    onMain([](SyndicatedSession& session, SyndicatedSessionDelegate* delegate) {
+        if (delegate)
+            delegate->syndicatedSessionDidFinishParsing(session);
+    });
+    discoverIcon();
+}
+
+void SyndicatedSessionPass::discoverFeeds(std::string page) {
+    onMain([](SyndicatedSession&, SyndicatedSessionDelegate*) {}); // puts the feed, of kind html now, in its place
+    // The completion may come on any thread, and does not keep the session.
+    SyndicatedDiscovery::discoverFeeds(std::move(page), _environment.clock, [session = _session](SyndicatedDiscovery::Feeds feeds) {
+        DispatchQueue::main().async([session, feeds = std::move(feeds)] {
+            if (const auto found = session.lock())
+                found->didDiscoverFeeds(feeds);
+        });
+    });
+}
+
+void SyndicatedSessionPass::discoverIcon() {
+    const bool isWanted = ask(true, [](SyndicatedSessionDelegate& delegate) { return delegate.syndicatedSessionShouldDiscoverIcon(); });
+    const auto root = isWanted && _environment.iconDiscovery ? siteRoot() : std::nullopt;
+    const auto report = [session = _session](const std::optional<std::string>& bytes) {
+        const auto found = session.lock();
+        const auto delegate = found ? found->delegate.lock() : nullptr;
+        if (!delegate)
+            return;
+        if (bytes)
+            delegate->syndicatedSessionDidDiscoverIcon(*found, *bytes);
+        delegate->syndicatedSessionDidEndIconStep(*found);
+    };
+    if (root)
+        _environment.iconDiscovery->discoverIcon(*root, report);
+    else
+        DispatchQueue::main().async([report] { report(std::nullopt); });
+}
+
+std::optional<URL> SyndicatedSessionPass::siteRoot() const {
+    const URL site = _feed->primaryURL().value_or(_url);
+    const auto host = site.host();
+    if (!host)
+        return std::nullopt;
+    std::string root(site.scheme().value_or("http"));
+    root += "://";
+    root += *host;
+    return URL::make(root);
+}
+
+void SyndicatedSessionPass::fail(SyndicatedSessionError::Case kind) {
+    onMain([kind](SyndicatedSession& session, SyndicatedSessionDelegate*) { session.fail({kind, std::nullopt}); });
+}
+
+void SyndicatedSessionPass::onMain(std::function<void(SyndicatedSession& session, SyndicatedSessionDelegate* delegate)> step) {
+    DispatchQueue::main().async([feed = _feed, weak = _session, step = std::move(step)] {
+        const auto session = weak.lock();
+        if (!session)
+            return;
+        if (feed)
+            session->_feed = feed;
+        step(*session, session->delegate.lock().get());
+    });
+}
+
+/// The delegate is asked here, off the main thread, but never ends here: whoever lets go of it last does so on the main thread.
+template <typename Question>
+bool SyndicatedSessionPass::ask(bool answerOfNone, Question question) {
+    auto delegate = _delegate.lock();
+    const bool answer = delegate ? question(*delegate) : answerOfNone;
+    if (delegate)
+        DispatchQueue::main().async([kept = std::move(delegate)] {});
+    return answer;
+}
+
+} // namespace brindle
