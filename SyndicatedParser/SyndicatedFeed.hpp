@@ -13,12 +13,12 @@
 
 namespace brindle {
 
-/// A parsed feed, independent of its format, kept from one update to the next: a parse replaces `entries`, while `links` and `categories` grow. Written
-/// by one parse at a time and handed to the main thread afterwards.
+/// A parsed feed, independent of its format, kept from one update to the next: a parse replaces `entries`, while `links` and `categories`
+/// grow. Written by one parse at a time and handed to the main thread afterwards.
 class SyndicatedFeed {
 public:
     /// `now` becomes both dates.
-    SyndicatedFeed(SyndicatedFeedKind kind, Date now) : kind(kind), datePublished(now), dateUpdated(now) {}
+    SyndicatedFeed(SyndicatedFeedKind feedKind, Date now) : kind(feedKind), datePublished(now), dateUpdated(now) {}
 
     const SyndicatedFeedKind kind;
     std::string identifier;
