@@ -66,7 +66,7 @@ struct ParseError {
     ParseErrorCode code = ParseErrorCode::eofInTag;
     std::size_t offset = 0; ///< Bytes from the start of the text, after a byte order mark and with line ends made line feeds.
     std::size_t line = 1;   ///< From 1.
-    std::size_t column = 1; ///< In code points, from 1.
+    std::size_t column = 1; ///< In UTF-16 code units, from 1.
 
     std::string_view name() const noexcept { return parseErrorName(code); }
 };

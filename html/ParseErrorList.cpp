@@ -23,7 +23,7 @@ std::vector<ParseError> ParseErrorList::located(std::string_view text) && {
                 ++line;
                 column = 1;
             } else if ((byte & 0xC0) != 0x80) {
-                ++column;
+                column += byte >= 0xF0 ? 2 : 1;
             }
         }
         error.line = line;
