@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -7,10 +8,15 @@
 /// Thread: set both before any other thread runs; read from any.
 namespace brindle {
 
-/// Sets the process's locale by its ICU identifier ("de_DE", "en-US-u-ca-gregory"); false, and nothing changed, when ICU knows no such language.
+/// Sets the process's locale by its ICU identifier ("de_DE", "en-US-u-ca-gregory"); false, and nothing changed, when ICU knows no such
+/// language.
 bool setUserLocale(std::string_view identifier);
 
-/// Sets the process's time zone by its IANA name ("Europe/Berlin") or an offset ("GMT+1"); false, and nothing changed, when there is no such zone.
+/// Sets the process's time zone by its IANA name ("Europe/Berlin") or an offset ("GMT+1"); false, and nothing changed, when there is no
+/// such zone.
 bool setUserTimeZone(std::string_view identifier);
+
+/// How often either was set: what a formatter keeps for an earlier count is stale.
+std::uint64_t userLocaleChanges();
 
 } // namespace brindle

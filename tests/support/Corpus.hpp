@@ -1,0 +1,33 @@
+#pragma once
+
+#include <filesystem>
+#include <gtest/gtest.h>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace brindle::testsupport {
+
+/// The folder of test documents that the environment variable BRINDLE_CORPUS names; absent when it is not set or no folder.
+std::optional<std::filesystem::path> corpus();
+
+/// Whether a test that cannot find its documents has to fail instead of being skipped: the environment says CI=true.
+bool corpusIsMandatory();
+
+/// The regular files below `folder`, in the order of their paths.
+std::vector<std::filesystem::path> filesBelow(const std::filesystem::path& folder);
+
+/// The bytes of a file; fails the running test and gives none when it can't be read.
+std::string bytesOf(const std::filesystem::path& file);
+
+} // namespace brindle::testsupport
+
+/// Declares `path` as the corpus folder, or ends the running test: skipped, or failed under CI=true.
+#define BRINDLE_REQUIRE_CORPUS(path)                                                                                                       \
+    const std::optional<std::filesystem::path> path##Found = brindle::testsupport::corpus();                                               \
+    if (!path##Found && brindle::testsupport::corpusIsMandatory())                                                                         \
+        FAIL() << "BRINDLE_CORPUS names no folder";                                                                                        \
+    if (!path##Found)                                                                                                                      \
+        GTEST_SKIP() << "BRINDLE_CORPUS names no folder";                                                                                  \
+    const std::filesystem::path& path = *path##Found
