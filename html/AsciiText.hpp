@@ -35,12 +35,12 @@ constexpr bool isAsciiAlphanumeric(char c) noexcept {
 }
 
 inline bool isBlank(std::string_view text) noexcept {
-    return std::all_of(text.begin(), text.end(), isAsciiWhitespace);
+    return std::all_of(text.begin(), text.end(), [](char c) { return isAsciiWhitespace(c); });
 }
 
 inline std::string asciiLowercased(std::string_view text) {
     std::string lowered(text);
-    std::transform(lowered.begin(), lowered.end(), lowered.begin(), toAsciiLower);
+    std::transform(lowered.begin(), lowered.end(), lowered.begin(), [](char c) { return toAsciiLower(c); });
     return lowered;
 }
 

@@ -1,20 +1,21 @@
 #pragma once
 
+#include <cstdint>
 #include <string_view>
 
 #include "html/OutputBuffer.hpp"
 
 namespace brindle::html {
 
-/// Which characters of a text are written as references; `&` and the no-break space always are.
-struct EscapedCharacters {
-    bool lessThan = true;
-    bool greaterThan = true;
-    bool quote = false;
+/// Where escaped text stands. `&` and the no-break space are references everywhere.
+enum class EscapedPlace : std::uint8_t {
+    text,          ///< `<` and `>` as well.
+    collapsedText, ///< As in text; and each run of ASCII white space becomes one blank.
+    htmlAttribute, ///< `"` as well.
+    xmlAttribute,  ///< `"` and `<` as well.
 };
 
-/// Appends `text` with its special characters as references. Where `collapsesBlanks` is set, each run of ASCII white space becomes one
-/// blank.
-void appendEscaped(OutputBuffer& output, std::string_view text, EscapedCharacters escaped, bool collapsesBlanks);
+/// Appends `text` with its special characters as references.
+void appendEscaped(OutputBuffer& output, std::string_view text, EscapedPlace place);
 
 } // namespace brindle::html

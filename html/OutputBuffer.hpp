@@ -1,5 +1,7 @@
 #pragma once
 
+#include <algorithm>
+#include <array>
 #include <cstddef>
 #include <cstring>
 #include <string>
@@ -13,7 +15,10 @@ namespace brindle::html {
 /// Text in the making, with room for short pieces checked once for several of them.
 class OutputBuffer {
 public:
-    explicit OutputBuffer(std::size_t expectedSize) : _text(expectedSize, '\0'), _at(_text.data()), _end(_at + _text.size()) {}
+    explicit OutputBuffer(std::size_t expectedSize) {
+        _text.reserve(expectedSize);
+        _at = _end = _text.data();
+    }
     OutputBuffer(const OutputBuffer&) = delete;
     OutputBuffer& operator=(const OutputBuffer&) = delete;
 
@@ -39,6 +44,13 @@ public:
         _at += count;
     }
 
+    /// Puts the first `count` bytes of `padded`; needs room for the whole of it.
+    template <std::size_t size>
+    void putPadded(const std::array<char, size>& padded, std::size_t count) noexcept {
+        std::memcpy(_at, padded.data(), size);
+        _at += count;
+    }
+
     void append(std::string_view text) {
         ensureRoom(text.size());
         put(text);
@@ -59,15 +71,17 @@ private:
     std::size_t size() const noexcept { return static_cast<std::size_t>(_at - _text.data()); }
 
     void grow(std::size_t room) {
+        // In steps, so that the zeros that fill new room are still near at hand when they are written over.
+        constexpr std::size_t step = 16384;
         const std::size_t used = size();
-        _text.resize(used + used / 2 + room + 4096);
+        _text.resize(used + room + step);
         _at = _text.data() + used;
         _end = _text.data() + _text.size();
     }
 
     std::string _text;
-    char* _at;
-    char* _end;
+    char* _at = nullptr;
+    char* _end = nullptr;
 };
 
 } // namespace brindle::html

@@ -118,7 +118,7 @@ void Serialiser::close(OutputBuffer& output, const Element& element, std::size_t
 }
 
 void Serialiser::writeAttributes(OutputBuffer& output, const Attributes& attributes) const {
-    const EscapedCharacters escaped{.lessThan = isXml(), .greaterThan = false, .quote = true};
+    const EscapedPlace place = isXml() ? EscapedPlace::xmlAttribute : EscapedPlace::htmlAttribute;
     for (const Attribute& attribute : attributes) {
         if (isXml() && !isXmlName(attribute.key)) {
             continue;
@@ -127,7 +127,7 @@ void Serialiser::writeAttributes(OutputBuffer& output, const Attributes& attribu
         output.put(' ');
         output.put(attribute.key);
         output.put("=\"");
-        appendEscaped(output, attribute.value, escaped, false);
+        appendEscaped(output, attribute.value, place);
         output.append("\"");
     }
 }
@@ -137,11 +137,16 @@ void Serialiser::writeText(OutputBuffer& output, const TextNode& text, std::size
     if (!isXml() && holdsRawText(parent)) {
         return output.append(text.text());
     }
-    if (_settings.prettyPrint() && text.previousSibling() == nullptr && formatsAsBlock(parent) && !isBlank(text.text())) {
-        startLine(output, depth);
+    const bool preservesWhitespace = !_settings.prettyPrint() || (parent != nullptr && parent->tag().preserveWhitespace());
+    if (_settings.prettyPrint()) {
+        if (isBlank(text.text())) {
+            return preservesWhitespace ? output.append(text.text()) : output.append(" ");
+        }
+        if (text.previousSibling() == nullptr && formatsAsBlock(parent)) {
+            startLine(output, depth);
+        }
     }
-    const bool preservesWhitespace = parent != nullptr && parent->tag().preserveWhitespace();
-    appendEscaped(output, text.text(), EscapedCharacters(), _settings.prettyPrint() && !preservesWhitespace);
+    appendEscaped(output, text.text(), preservesWhitespace ? EscapedPlace::text : EscapedPlace::collapsedText);
 }
 
 void Serialiser::writeDocumentType(OutputBuffer& output, const DocumentType& type) const {

@@ -8,7 +8,8 @@
 
 namespace brindle::html {
 
-/// What the tokeniser gives next. Its texts live as long as the arena and the text of the tokeniser; its attributes until the next token.
+/// What the tokeniser gives next. A field means something for the kinds of token that it is described for. Texts live as long as the arena
+/// and the text of the tokeniser; attributes until the next token.
 struct Token {
     enum class Kind : std::uint8_t { startTag, endTag, text, comment, documentType, endOfFile };
 
@@ -27,6 +28,7 @@ struct Token {
     /// Whether a text is that of a CDATA section.
     bool isCdata = false;
 
+    /// What a document type has and asks for.
     bool forcesQuirks = false;
     bool hasName = false;
     bool hasPublicId = false;
@@ -38,11 +40,20 @@ struct Token {
     /// The name of a tag or document type.
     std::string_view name;
 
+    /// Of a document type.
+
     std::string_view publicId;
     std::string_view systemId;
 
     /// The attributes of a start tag, no key twice.
     std::span<const Attribute> attributes;
+
+    /// Makes it a token whose flags are all unset. The texts stay: clearing them for every token costs more than all else that is done for
+    /// one.
+    void restart() noexcept {
+        kind = Kind::endOfFile;
+        isSelfClosing = containsNull = isCdata = forcesQuirks = hasName = hasPublicId = hasSystemId = false;
+    }
 };
 
 } // namespace brindle::html

@@ -14,7 +14,7 @@ Tokeniser::Tokeniser(const std::string& text, Arena& arena, ParseErrorList& erro
 
 const Token& Tokeniser::next() {
     do {
-        _token = Token();
+        _token.restart();
         _run.begin(_at);
         readInState();
         // An empty CDATA section comes to nothing.

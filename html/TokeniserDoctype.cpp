@@ -18,6 +18,7 @@ constexpr std::string_view systemKeyword = "system";
 void Tokeniser::readDoctype() {
     const char* const start = _at;
     _token.kind = Token::Kind::documentType;
+    _token.name = _token.publicId = _token.systemId = {};
     if (readDoctypeName() && readDoctypeIdentifiers()) {
         skipBogusDoctype();
     }

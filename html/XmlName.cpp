@@ -1,6 +1,7 @@
 #include "html/XmlName.hpp"
 
 #include <algorithm>
+#include <array>
 #include <iterator>
 
 #include "html/AsciiText.hpp"
@@ -25,6 +26,20 @@ bool isWithin(const CodePointRange (&ranges)[count], char32_t value) noexcept {
         std::begin(ranges), std::end(ranges), [=](CodePointRange range) { return value >= range.first && value <= range.last; });
 }
 
+constexpr auto asciiNameBytes = [] {
+    std::array<bool, 256> table{};
+    for (const char byte : std::string_view("abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789_:-.")) {
+        table[static_cast<unsigned char>(byte)] = true;
+    }
+    return table;
+}();
+
+/// Nearly every name of a feed is one.
+bool isAsciiName(std::string_view text) noexcept {
+    return !text.empty() && text.front() > '9' &&
+           std::all_of(text.begin(), text.end(), [](char byte) { return asciiNameBytes[static_cast<unsigned char>(byte)]; });
+}
+
 bool isNameStart(char32_t value) noexcept {
     if (value < 0x80) {
         const char ascii = static_cast<char>(value);
@@ -44,6 +59,9 @@ bool isNameCharacter(char32_t value) noexcept {
 } // namespace
 
 bool isXmlName(std::string_view text) noexcept {
+    if (isAsciiName(text)) {
+        return true;
+    }
     bool isFirst = true;
     for (std::size_t at = 0; at < text.size(); isFirst = false) {
         const DecodedCodePoint decoded = decodeUtf8(text.substr(at));
