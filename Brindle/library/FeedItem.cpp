@@ -228,9 +228,9 @@ void FeedItem::syndicatedSessionDidDiscoverIcon(SyndicatedSession&, const std::s
         receiver->feedItemHasImageData(*this);
 }
 
-void FeedItem::syndicatedSessionDidEndIconDiscovery(SyndicatedSession&) {
+void FeedItem::syndicatedSessionDidEndIconStep(SyndicatedSession&) {
     if (const auto receiver = delegate.lock())
-        receiver->feedItemDidEndIconDiscovery(*this);
+        receiver->feedItemDidEndIconStep(*this);
 }
 
 } // namespace brindle
