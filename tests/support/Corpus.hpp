@@ -23,11 +23,11 @@ std::string bytesOf(const std::filesystem::path& file);
 
 } // namespace brindle::testsupport
 
-/// Declares `path` as the corpus folder, or ends the running test: skipped, or failed under CI=true.
-#define BRINDLE_REQUIRE_CORPUS(path)                                                                                                       \
-    const std::optional<std::filesystem::path> path##Found = brindle::testsupport::corpus();                                               \
-    if (!path##Found && brindle::testsupport::corpusIsMandatory())                                                                         \
+/// Declares `variable` as the corpus folder, or ends the running test: skipped, or failed under CI=true.
+#define BRINDLE_REQUIRE_CORPUS(variable)                                                                                                   \
+    const std::optional<std::filesystem::path> variable##Found = brindle::testsupport::corpus();                                           \
+    if (!variable##Found && brindle::testsupport::corpusIsMandatory())                                                                     \
         FAIL() << "BRINDLE_CORPUS names no folder";                                                                                        \
-    if (!path##Found)                                                                                                                      \
+    if (!variable##Found)                                                                                                                  \
         GTEST_SKIP() << "BRINDLE_CORPUS names no folder";                                                                                  \
-    const std::filesystem::path& path = *path##Found
+    const std::filesystem::path& variable = *variable##Found
