@@ -44,19 +44,16 @@ NamedReferenceMatch longestNamedReference(std::string_view text) noexcept {
 
 std::optional<std::string_view> namedReference(std::string_view nameWithoutAmpersandAndSemicolon) noexcept {
     const std::string_view wanted = nameWithoutAmpersandAndSemicolon;
-    const auto isBefore = [](const NamedReferenceEntry& entry, std::string_view name) { return nameOf(entry) < name; };
+    // Every name has a form with a semicolon, and that is the one looked for.
+    const auto isBefore = [](const NamedReferenceEntry& entry, std::string_view name) {
+        const int order = nameOf(entry).substr(0, name.size()).compare(name);
+        return order != 0 ? order < 0 : byteAt(entry, name.size()) < ';';
+    };
     const NamedReferenceEntry* const end = std::end(namedReferenceEntries);
-    // Every name has a form with a semicolon; it sorts right behind the form without one, where that exists.
-    for (const auto* entry = std::lower_bound(std::begin(namedReferenceEntries), end, wanted, isBefore);
-         entry != end && nameOf(*entry).starts_with(wanted); ++entry) {
-        if (entry->nameLength == wanted.size() + 1 && nameOf(*entry).back() == ';') {
-            return valueOf(*entry);
-        }
-        if (entry->nameLength > wanted.size()) {
-            break;
-        }
-    }
-    return std::nullopt;
+    const NamedReferenceEntry* const found = std::lower_bound(std::begin(namedReferenceEntries), end, wanted, isBefore);
+    const bool isFound =
+        found != end && found->nameLength == wanted.size() + 1 && nameOf(*found).starts_with(wanted) && nameOf(*found).ends_with(';');
+    return isFound ? std::optional(valueOf(*found)) : std::nullopt;
 }
 
 } // namespace brindle::html

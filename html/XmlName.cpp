@@ -65,7 +65,8 @@ bool isXmlName(std::string_view text) noexcept {
     bool isFirst = true;
     for (std::size_t at = 0; at < text.size(); isFirst = false) {
         const DecodedCodePoint decoded = decodeUtf8(text.substr(at));
-        if (isFirst ? !isNameStart(decoded.value) : !isNameCharacter(decoded.value)) {
+        const bool isMalformed = decoded.length == 1 && decoded.value >= 0x80;
+        if (isMalformed || (isFirst ? !isNameStart(decoded.value) : !isNameCharacter(decoded.value))) {
             return false;
         }
         at += decoded.length;
