@@ -1,4 +1,3 @@
-#include <algorithm>
 #include <gtest/gtest.h>
 #include <memory>
 #include <string>
@@ -36,11 +35,9 @@ void dropUnwritableAttributes(Document& document) {
     }
 }
 
-/// A carriage return that a reference stood for is written as itself, and reads as a line feed.
+/// A carriage return that a reference stood for is written as itself, and reads as a line end.
 std::string dumpWithoutReturns(const Document& document) {
-    std::string dump = html5libDump(document);
-    std::replace(dump.begin(), dump.end(), '\r', '\n');
-    return dump;
+    return InputStream(html5libDump(document)).text();
 }
 
 void expectSameTreeAgain(const std::string& text) {
@@ -67,6 +64,6 @@ TEST_P(CorpusRoundTripTest, ReadsWhatItWroteAsTheSameTree) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Folders, CorpusRoundTripTest, ::testing::Values("xml", "pages", "feeds"));
+INSTANTIATE_TEST_SUITE_P(Folders, CorpusRoundTripTest, ::testing::Values("xml", "pages", "feeds/feedparser", "feeds/feedjira"));
 
 } // namespace brindle::html
