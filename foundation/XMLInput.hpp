@@ -33,4 +33,8 @@ private:
     int _skippedLines = 0;
 };
 
+/// Whether any tag in `text` has more attributes than a document of good faith would give one. libxml2 compares each with each, so that a
+/// single tag of a megabyte would keep it for minutes.
+bool hasTooManyAttributes(std::string_view text);
+
 } // namespace brindle

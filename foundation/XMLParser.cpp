@@ -26,6 +26,8 @@ constexpr std::size_t expansionFactor = 20;
 /// What a reference to a declared entity counts for beside its text: each costs libxml2 a reader of its own.
 constexpr std::size_t expansionCost = 32;
 
+constexpr const char* tooManyAttributes = "An element has too many attributes";
+
 constexpr int options = XML_PARSE_NOENT | XML_PARSE_NONET | XML_PARSE_SAX1 | XML_PARSE_NOERROR | XML_PARSE_NOWARNING | XML_PARSE_IGNORE_ENC;
 
 std::string_view view(const xmlChar* text) {
@@ -135,6 +137,8 @@ private:
 
     static void declareEntity(void* self, const xmlChar* name, int type, const xmlChar*, const xmlChar*, xmlChar* content) {
         const bool isParameter = type == XML_INTERNAL_PARAMETER_ENTITY || type == XML_EXTERNAL_PARAMETER_ENTITY;
+        if (content != nullptr && hasTooManyAttributes(view(content)))
+            return of(self)._parser.abortParsing(tooManyAttributes);
         of(self)._entities.declare(view(name), isParameter, content);
     }
 
@@ -195,8 +199,9 @@ bool XMLParser::parse() {
         fatalError("XMLParser without a delegate");
     prepareLibrary();
     const XMLInput input(_data, _encoding);
-    if (input.text().size() > static_cast<std::size_t>(std::numeric_limits<int>::max() / 2)) {
-        _error = XMLParserError{0, 0, "Document is too large"};
+    const bool tooLarge = input.text().size() > static_cast<std::size_t>(std::numeric_limits<int>::max() / 2);
+    if (tooLarge || hasTooManyAttributes(input.text())) {
+        _error = XMLParserError{0, 0, tooLarge ? "Document is too large" : tooManyAttributes};
         return false;
     }
     XMLParserEvents events(*this, input.text().size());

@@ -303,6 +303,24 @@ TEST(XMLParserTest, DeliversLargeCDATASectionsOfLargeDocumentsWhole) {
     EXPECT_EQ(events(document + "</a>"), expected + "</a>}");
 }
 
+TEST(XMLParserTest, RefusesElementsWithCountlessAttributes) {
+    std::string tag = "x";
+    for (int attribute = 0; attribute < 200'000; ++attribute)
+        tag += " a" + std::to_string(attribute) + "='='";
+    EXPECT_TRUE(isRefused("<" + tag + "/>"));
+    EXPECT_TRUE(isRefused("<a><b/>" + std::string(20'000, ' ') + "<" + tag + "/></a>"));
+    std::replace(tag.begin(), tag.end(), '\'', '"');
+    EXPECT_TRUE(isRefused("<!DOCTYPE a [<!ENTITY e '&#60;" + tag + "/>'>]><a>&e;</a>"));
+}
+
+TEST(XMLParserTest, TakesLongTagsAndTextsFullOfSigns) {
+    std::string tag = "<x";
+    for (int attribute = 0; attribute < 500; ++attribute)
+        tag += " a" + std::to_string(attribute) + "='" + std::string(100, '=') + "'";
+    EXPECT_FALSE(isRefused(tag + ">" + std::string(100'000, '=') + "<!--" + std::string(100'000, '=') + "--></x>"));
+    EXPECT_FALSE(isRefused("<x><![CDATA[" + std::string(100'000, '=') + "]]></x>"));
+}
+
 TEST(XMLParserTest, RefusesEntitiesThatExpandWithoutEnd) {
     std::string laughs = "<!DOCTYPE a [<!ENTITY l0 'lol'>";
     for (int level = 1; level < 12; ++level) {
