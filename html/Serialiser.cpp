@@ -13,6 +13,14 @@ namespace brindle::html {
 
 namespace {
 
+/// A line feed with as many blanks as nearly all lines start with, to be copied as a whole.
+constexpr auto lineStart = [] {
+    std::array<char, 32> line{};
+    line.fill(' ');
+    line[0] = '\n';
+    return line;
+}();
+
 /// A guess at the size of the text, so that the buffer seldom grows.
 std::size_t expectedSize(const Node& top) noexcept {
     constexpr std::size_t least = 1024;
@@ -162,9 +170,11 @@ void Serialiser::writeDocumentType(OutputBuffer& output, const DocumentType& typ
 
 void Serialiser::startLine(OutputBuffer& output, std::size_t depth) const {
     const std::size_t blanks = std::min(depth, deepestIndentation) * _settings.indentAmount();
-    output.ensureRoom(blanks + 1);
-    output.put('\n');
-    output.append(blanks, ' ');
+    output.ensureRoom(lineStart.size());
+    output.putPadded(lineStart, std::min(blanks + 1, lineStart.size()));
+    if (blanks >= lineStart.size()) {
+        output.append(blanks + 1 - lineStart.size(), ' ');
+    }
 }
 
 bool Serialiser::formatsAsBlock(const Element* element) const noexcept {

@@ -21,7 +21,7 @@ public:
 
     /// Has [`from`, `to`) of the source stand as `text`. What lies between the last replacement and `from` stays as it is.
     void replace(const char* from, const char* to, std::string_view text) {
-        _copy.append(_pending, from);
+        take(from);
         _copy.append(text);
         _pending = to;
         _isCopied = true;
@@ -34,11 +34,13 @@ public:
         if (!_isCopied) {
             return {_pending, static_cast<std::size_t>(at - _pending)};
         }
-        _copy.append(_pending, at);
+        take(at);
         return _arena->copy(_copy);
     }
 
 private:
+    void take(const char* end) { _copy.append(_pending, static_cast<std::size_t>(end - _pending)); }
+
     Arena* _arena;
     const char* _pending = nullptr;
     bool _isCopied = false;

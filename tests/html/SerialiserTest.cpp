@@ -158,6 +158,14 @@ TEST(SerialiserTest, IndentsByTheChosenAmount) {
     EXPECT_EQ(document->outerHtml(), "\n<a>\n   <guid>\n      x\n   </guid></a>");
 }
 
+TEST(SerialiserTest, IndentsByManyBlanksAsWell) {
+    for (const unsigned amount : {0U, 30U, 31U, 32U, 33U, 255U}) {
+        const auto document = parseXml("<n><n/></n>");
+        document->outputSettings().setIndentAmount(static_cast<unsigned char>(amount));
+        EXPECT_EQ(document->outerHtml(), "\n<n>\n" + std::string(amount, ' ') + "<n />\n</n>");
+    }
+}
+
 TEST(SerialiserTest, TreatsEveryElementAsABlockInOutline) {
     const auto document = parseXml("<p><a>x</a></p>");
     document->outputSettings().setOutline(true);
