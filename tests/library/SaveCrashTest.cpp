@@ -1,0 +1,139 @@
+#include "Brindle/library/FeedsManager.hpp"
+#include "foundation/Console.hpp"
+#include "foundation/FileManager.hpp"
+#include "tests/library/LibraryFixture.hpp"
+
+#include <atomic>
+#include <csignal>
+#include <functional>
+#include <random>
+#include <sched.h>
+#include <set>
+#include <sys/mman.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace brindle {
+namespace {
+
+constexpr int feedCount = 24;
+constexpr int kills = 200;
+
+/// Two libraries with the same feeds, told apart by everything that is stored of them.
+class SaveCrashTest : public LibraryTest {
+protected:
+    static std::string uuidText(int feed) { return "00000000-0000-4000-8000-0000000000" + std::to_string(10 + feed); }
+
+    static std::string content(char version, int feed, std::size_t size) { return std::string(size, version) + std::to_string(feed); }
+
+    std::unique_ptr<FeedsManager> library(char version) {
+        auto manager = makeManager();
+        for (int i = 0; i < feedCount; ++i) {
+            const auto item = makeItem(content(version, i, 1));
+            item->uuid = *UUID::make(uuidText(i));
+            item->data = content(version, i, version == 'A' ? 5'000 : 90'000);
+            item->articleStateCache = {{content(version, i, 20), 1}};
+            item->setFeedImageData(content(version, i, version == 'A' ? 900 : 300));
+            manager->addFeed(item, i);
+        }
+        return manager;
+    }
+
+    enum Outcome { wholeAndUndisturbed = 0, broken = 1, wholeAfterInterruption = 2 };
+
+    /// What a fresh start finds after a kill.
+    Outcome outcome() {
+        std::set<char> versions;
+        bool isInterrupted = false;
+        for (const std::string name : {"Data", "Caches", "Images"}) {
+            for (const auto& entry : std::filesystem::directory_iterator(folder / name))
+                isInterrupted |= entry.path().filename().native().starts_with('.');
+        }
+        const auto manager = loadedManager();
+        const auto items = FeedsManager::items(manager->feeds);
+        EXPECT_EQ(items.size(), std::size_t{feedCount});
+        for (std::size_t i = 0; i < items.size(); ++i) {
+            const FeedItem& item = *items[i];
+            const int feed = static_cast<int>(i);
+            EXPECT_EQ(item.uuid.uuidString(), uuidText(feed));
+            EXPECT_EQ(item.name()[0], items[0]->name()[0]) << "the tree is of two libraries";
+            EXPECT_EQ(item.name(), content(item.name()[0], feed, 1));
+            EXPECT_TRUE(item.data == content('A', feed, 5'000) || item.data == content('B', feed, 90'000)) << feed;
+            const auto image = item.feedImageData().value_or(std::string());
+            EXPECT_TRUE(image == content('A', feed, 900) || image == content('B', feed, 300)) << feed;
+            const auto& states = item.articleStateCache;
+            EXPECT_TRUE(states.size() == 1 && (states.count(content('A', feed, 20)) == 1 || states.count(content('B', feed, 20)) == 1))
+                << feed;
+            versions.insert({item.name()[0], item.data[0], image[0], states.begin()->first[0]});
+        }
+        if (HasFailure())
+            return broken;
+        return isInterrupted || versions.size() > 1 ? wholeAfterInterruption : wholeAndUndisturbed;
+    }
+
+    /// Runs `work` in a process that shares nothing with this one but its files; gives its process id.
+    static pid_t start(const std::function<int()>& work) {
+        const pid_t child = ::fork();
+        if (child == 0)
+            ::_exit(work());
+        return child;
+    }
+
+    static int exitStatus(pid_t child) {
+        int status = 0;
+        return child > 0 && ::waitpid(child, &status, 0) == child && WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+    }
+
+    /// Counts the rounds of waiting until `saves` has gone up by `count`.
+    static std::size_t roundsUntil(const std::atomic<unsigned>& saves, unsigned count) {
+        std::size_t rounds = 0;
+        for (const unsigned wanted = saves + count; saves < wanted; ++rounds)
+            ::sched_yield();
+        return rounds;
+    }
+
+    [[noreturn]] void saveForever(std::atomic<unsigned>& saves) {
+        const auto a = library('A'), b = library('B');
+        for (;;) {
+            b->save();
+            ++saves;
+            a->save();
+            ++saves;
+        }
+    }
+};
+
+/// All of it happens in a process that starts no thread of its own, so that it can divide itself.
+TEST_F(SaveCrashTest, LeavesEveryFileOldOrNewWhereverASaveIsKilled) {
+    if (!isChild()) {
+        EXPECT_TRUE(runThisTestInChild());
+        return;
+    }
+    Console::redirect([](std::string_view) {});
+    ASSERT_EQ(exitStatus(start([&] { return library('A')->save(), 0; })), 0);
+    void* const page = ::mmap(nullptr, sizeof(std::atomic<unsigned>), PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0);
+    ASSERT_NE(page, MAP_FAILED);
+    auto& saves = *new (page) std::atomic<unsigned>(0);
+    std::mt19937 random(19810412);
+    int interrupted = 0;
+    for (int kill = 0; kill < kills; ++kill) {
+        const pid_t saver = start([&]() -> int { saveForever(saves); });
+        const std::size_t roundsOfTwoSaves = 1 + roundsUntil(saves, 2);
+        for (std::size_t round = random() % roundsOfTwoSaves; round > 0; --round)
+            ::sched_yield();
+        ::kill(saver, SIGKILL);
+        exitStatus(saver);
+        const int result = exitStatus(start([&] { return static_cast<int>(outcome()); }));
+        ASSERT_TRUE(result == wholeAndUndisturbed || result == wholeAfterInterruption) << "kill " << kill << ": " << result;
+        interrupted += result == wholeAfterInterruption ? 1 : 0;
+    }
+    RecordProperty("interrupted", interrupted);
+    EXPECT_GT(interrupted, 0) << "no kill came inside a save";
+    ASSERT_EQ(exitStatus(start([&] { return library('A')->save(), 0; })), 0);
+    EXPECT_EQ(exitStatus(start([&] { return static_cast<int>(outcome()); })), static_cast<int>(wholeAndUndisturbed)) << "leftovers stay";
+    std::filesystem::remove_all(folder);
+    endChild();
+}
+
+} // namespace
+} // namespace brindle
