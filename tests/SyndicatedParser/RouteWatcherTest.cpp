@@ -1,0 +1,109 @@
+#include "SyndicatedParser/RouteWatcher.hpp"
+
+#include "SyndicatedParser/RoutingTable.hpp"
+
+#include <condition_variable>
+#include <cstdlib>
+#include <functional>
+#include <gtest/gtest.h>
+#include <mutex>
+#include <sched.h>
+#include <string>
+#include <sys/wait.h>
+#include <unistd.h>
+#include <vector>
+
+namespace brindle {
+namespace {
+
+constexpr int cannotTell = 77;
+
+bool ip(const std::string& arguments) {
+    return std::system(("ip " + arguments + " >/dev/null 2>&1").c_str()) == 0;
+}
+
+/// Runs `body` in a child process with a network of its own, in which nothing is up; its result is the child's exit status.
+int inNetworkOfItsOwn(const std::function<int()>& body) {
+    const pid_t child = ::fork();
+    if (child == 0) {
+        const bool isApart = ::unshare(CLONE_NEWNET) == 0 || ::unshare(CLONE_NEWUSER | CLONE_NEWNET) == 0;
+        ::_exit(isApart && ip("link add in0 type veth peer name out0") ? body() : cannotTell);
+    }
+    int status = 0;
+    ::waitpid(child, &status, 0);
+    return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+}
+
+bool addDefaultRoute() {
+    return ip("address add 10.9.0.2/24 dev in0") && ip("link set out0 up") && ip("link set in0 up") && ip("route add default via 10.9.0.1");
+}
+
+/// What a watch was told, with a way to wait for it.
+class Told {
+public:
+    void operator()(std::uint32_t word) {
+        const std::lock_guard lock(_mutex);
+        _last = word;
+        _changed.notify_all();
+    }
+    bool comesTo(std::uint32_t word) {
+        std::unique_lock lock(_mutex);
+        return _changed.wait_for(lock, std::chrono::seconds(30), [&] { return _last == word; });
+    }
+
+private:
+    std::mutex _mutex;
+    std::condition_variable _changed;
+    std::uint32_t _last = 1234;
+};
+
+#define EXPECT_HELD(status)                                                                                                                \
+    do {                                                                                                                                   \
+        const int held = (status);                                                                                                         \
+        if (held == cannotTell)                                                                                                            \
+            GTEST_SKIP() << "no network namespaces here";                                                                                  \
+        EXPECT_EQ(held, 0) << "the step that failed";                                                                                      \
+    } while (false)
+
+TEST(RoutingTableTest, FindsNoRouteInAnEmptyNetwork) {
+    EXPECT_HELD(inNetworkOfItsOwn([] { return RoutingTable::defaultRouteFlags() == 0U ? 0 : 1; }));
+}
+
+TEST(RoutingTableTest, FindsADefaultRouteAndNoOther) {
+    EXPECT_HELD(inNetworkOfItsOwn([] {
+        if (!ip("address add 10.9.0.2/24 dev in0") || !ip("link set out0 up") || !ip("link set in0 up"))
+            return cannotTell;
+        if (RoutingTable::defaultRouteFlags() != 0U)
+            return 1;
+        if (!ip("route add unreachable default metric 5000"))
+            return cannotTell;
+        if (RoutingTable::defaultRouteFlags() != 0U)
+            return 2;
+        if (!ip("route add default via 10.9.0.1"))
+            return cannotTell;
+        return RoutingTable::defaultRouteFlags() == NetworkReachabilityFlags::reachable ? 0 : 3;
+    }));
+}
+
+TEST(RouteWatcherTest, TellsEveryWatchWhenTheRouteComesAndGoes) {
+    EXPECT_HELD(inNetworkOfItsOwn([] {
+        Told first;
+        Told second;
+        const DispatchQueue queue("watch");
+        const auto one = RouteWatcher::shared().watch(queue, std::ref(first));
+        const auto two = RouteWatcher::shared().watch(queue, std::ref(second));
+        if (!one || !two)
+            return 1;
+        if (!addDefaultRoute())
+            return cannotTell;
+        if (!first.comesTo(NetworkReachabilityFlags::reachable) || !second.comesTo(NetworkReachabilityFlags::reachable))
+            return 2;
+        // The kernel sends no message for the route that goes with its link.
+        if (!ip("link set in0 down"))
+            return cannotTell;
+        return first.comesTo(0) && second.comesTo(0) && RouteWatcher::shared().flags() == 0U ? 0 : 3;
+    }));
+}
+
+} // namespace
+} // namespace brindle
