@@ -101,6 +101,7 @@ void FeedItem::invalidateTimer() {
 }
 
 void FeedItem::parse() {
+    _lastConnectionFailed = false;
     _session->start();
 }
 
@@ -171,6 +172,7 @@ void FeedItem::syndicatedSessionDidFail(SyndicatedSession&, const SyndicatedSess
     assertMainThread();
     std::optional<FeedItemError> reported = error;
     if (error.kind == SyndicatedSessionError::Case::connection) {
+        _lastConnectionFailed = true;
         Console::print("A connection error occured: " + (error.error ? error.error->description : "unknown"));
         if (!data.empty())
             return _session->start(data);

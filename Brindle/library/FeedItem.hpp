@@ -58,6 +58,8 @@ public:
     bool hasTimer() const { return _timer != nullptr; }
     /// What the timer does: fetches, whatever else is under way.
     void parse();
+    /// Whether the connection failed for the latest `parse`: what is reported then comes from the stored document, if there is one.
+    bool lastConnectionFailed() const { return _lastConnectionFailed; }
 
     std::vector<std::shared_ptr<FeedItemArticle>> articlesWithState(ArticleStateFilter filter) const;
     /// Sets the article's state and remembers it; nothing with `any`. Nothing is saved or announced.
@@ -87,6 +89,7 @@ private:
     std::shared_ptr<Timer> _timer;
     std::vector<std::shared_ptr<FeedItemArticle>> _articles; ///< in the feed's order
     std::optional<std::string> _feedImageData;
+    bool _lastConnectionFailed = false;
     /// What the icon question is answered from, on any thread: when an icon last arrived (microseconds since 1970, none: the minimum), and
     /// whether one is held.
     std::atomic<std::int64_t> _imageDiscoveryTime;
