@@ -1,3 +1,5 @@
 #include "cli/CommandLine.hpp"
 
-int main(int argc, char** argv) { return brindle::runCommandLine(argc, argv); }
+int main(int argc, char** argv) {
+    return brindle::runCommandLine(argc, argv);
+}

@@ -1,0 +1,10 @@
+#pragma once
+
+#include "cli/Command.hpp"
+
+namespace brindle {
+
+/// `list`: the tree of the library.
+Command listCommand();
+
+} // namespace brindle

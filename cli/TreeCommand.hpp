@@ -1,0 +1,10 @@
+#pragma once
+
+#include "cli/Command.hpp"
+
+namespace brindle {
+
+/// `tree`: the toolkit's tree of a document.
+Command treeCommand();
+
+} // namespace brindle
