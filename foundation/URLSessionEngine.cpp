@@ -130,6 +130,7 @@ void URLSessionEngine::answerChallenge(const std::shared_ptr<URLSessionDataTask>
             URLTransfer::Request again = std::move(kept->request);
             again.failedCredentials += again.credential ? 1 : 0;
             again.credential = std::move(credential);
+            again.credentialMethod = kept->challenge->authenticationMethod;
             start(asked, std::move(again));
         });
 }

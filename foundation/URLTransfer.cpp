@@ -62,7 +62,9 @@ bool URLTransfer::begin(CURLSH* share, Time now) {
     }
     curl_easy_setopt(_handle, CURLOPT_HTTPHEADER, _headers);
     if (_request.credential) {
-        curl_easy_setopt(_handle, CURLOPT_HTTPAUTH, static_cast<long>(CURLAUTH_BASIC | CURLAUTH_DIGEST));
+        // One method only: of several, libcurl would ask first which it is to be.
+        const bool isDigest = _request.credentialMethod == URLAuthenticationChallenge::Method::httpDigest;
+        curl_easy_setopt(_handle, CURLOPT_HTTPAUTH, static_cast<long>(isDigest ? CURLAUTH_DIGEST : CURLAUTH_BASIC));
         curl_easy_setopt(_handle, CURLOPT_USERNAME, _request.credential->user.c_str());
         curl_easy_setopt(_handle, CURLOPT_PASSWORD, _request.credential->password.c_str());
     }

@@ -24,6 +24,7 @@ public:
         std::string host; ///< what the limit for each host goes by: scheme, host and port
         URLSessionConfiguration configuration;
         std::optional<URLCredential> credential;
+        URLAuthenticationChallenge::Method credentialMethod = URLAuthenticationChallenge::Method::httpBasic;
         int failedCredentials = 0;
     };
 
