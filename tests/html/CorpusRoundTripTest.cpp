@@ -57,7 +57,7 @@ class CorpusRoundTripTest : public ::testing::TestWithParam<const char*> {};
 TEST_P(CorpusRoundTripTest, ReadsWhatItWroteAsTheSameTree) {
     BRINDLE_REQUIRE_CORPUS(path);
     const auto files = testsupport::filesBelow(path / GetParam());
-    ASSERT_GT(files.size(), 50U);
+    ASSERT_GE(files.size(), 50U);
     for (const auto& file : files) {
         SCOPED_TRACE(file.string());
         expectSameTreeAgain(testsupport::bytesOf(file));
