@@ -13,13 +13,6 @@ namespace {
 
 constexpr int articlesPerFeed = 35;
 
-/// Nothing is fetched here.
-class NoRoute : public NetworkRoute {
-public:
-    tl::expected<std::uint32_t, std::int32_t> flags() override { return 0; }
-    tl::expected<Watch, std::int32_t> watch(const DispatchQueue&, Callback) override { return std::make_shared<int>(); }
-};
-
 /// A library of feeds in groups of ten, each with the document and the table of 35 articles, in a folder of its own.
 class Library {
 public:
@@ -75,7 +68,7 @@ private:
     }
 
     std::filesystem::path _folder;
-    SyndicatedSessionEnvironment _environment{std::make_shared<SystemClock>(), std::make_shared<NoRoute>(), nullptr};
+    SyndicatedSessionEnvironment _environment{std::make_shared<SystemClock>(), absentNetworkRoute(), nullptr};
     std::weak_ptr<FeedItemDelegate> _nobody;
     std::unique_ptr<FeedsManager> _manager;
 };

@@ -3,14 +3,14 @@
 #include "foundation/FileManager.hpp"
 #include "tests/library/LibraryFixture.hpp"
 
-#include <atomic>
+#include <chrono>
 #include <csignal>
 #include <functional>
+#include <iostream>
 #include <random>
-#include <sched.h>
 #include <set>
-#include <sys/mman.h>
 #include <sys/wait.h>
+#include <time.h>
 #include <unistd.h>
 
 namespace brindle {
@@ -84,21 +84,23 @@ protected:
         return child > 0 && ::waitpid(child, &status, 0) == child && WIFEXITED(status) ? WEXITSTATUS(status) : -1;
     }
 
-    /// Counts the rounds of waiting until `saves` has gone up by `count`.
-    static std::size_t roundsUntil(const std::atomic<unsigned>& saves, unsigned count) {
-        std::size_t rounds = 0;
-        for (const unsigned wanted = saves + count; saves < wanted; ++rounds)
-            ::sched_yield();
-        return rounds;
+    /// Lets the kernel kill this process when it has used that much more of the processor: a moment that a busy machine does not move.
+    static void beKilledAfter(std::chrono::microseconds processorTime) {
+        sigevent event{};
+        event.sigev_notify = SIGEV_SIGNAL;
+        event.sigev_signo = SIGKILL;
+        timer_t timer{};
+        const itimerspec moment{{0, 0}, {0, static_cast<long>(std::chrono::nanoseconds(processorTime).count())}};
+        if (::timer_create(CLOCK_PROCESS_CPUTIME_ID, &event, &timer) != 0 || ::timer_settime(timer, 0, &moment, nullptr) != 0)
+            ::_exit(1);
     }
 
-    [[noreturn]] void saveForever(std::atomic<unsigned>& saves) {
+    [[noreturn]] void saveUntilKilled(std::chrono::microseconds processorTime) {
         const auto a = library('A'), b = library('B');
+        beKilledAfter(processorTime);
         for (;;) {
             b->save();
-            ++saves;
             a->save();
-            ++saves;
         }
     }
 };
@@ -111,23 +113,16 @@ TEST_F(SaveCrashTest, LeavesEveryFileOldOrNewWhereverASaveIsKilled) {
     }
     Console::redirect([](std::string_view) {});
     ASSERT_EQ(exitStatus(start([&] { return library('A')->save(), 0; })), 0);
-    void* const page = ::mmap(nullptr, sizeof(std::atomic<unsigned>), PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0);
-    ASSERT_NE(page, MAP_FAILED);
-    auto& saves = *new (page) std::atomic<unsigned>(0);
     std::mt19937 random(19810412);
     int interrupted = 0;
     for (int kill = 0; kill < kills; ++kill) {
-        const pid_t saver = start([&]() -> int { saveForever(saves); });
-        const std::size_t roundsOfTwoSaves = 1 + roundsUntil(saves, 2);
-        for (std::size_t round = random() % roundsOfTwoSaves; round > 0; --round)
-            ::sched_yield();
-        ::kill(saver, SIGKILL);
-        exitStatus(saver);
+        const std::chrono::microseconds moment(1 + random() % 40'000);
+        ASSERT_EQ(exitStatus(start([&]() -> int { saveUntilKilled(moment); })), -1) << "it was not killed";
         const int result = exitStatus(start([&] { return static_cast<int>(outcome()); }));
         ASSERT_TRUE(result == wholeAndUndisturbed || result == wholeAfterInterruption) << "kill " << kill << ": " << result;
         interrupted += result == wholeAfterInterruption ? 1 : 0;
     }
-    RecordProperty("interrupted", interrupted);
+    std::cout << interrupted << " of " << kills << " kills came inside a save\n";
     EXPECT_GT(interrupted, 0) << "no kill came inside a save";
     ASSERT_EQ(exitStatus(start([&] { return library('A')->save(), 0; })), 0);
     EXPECT_EQ(exitStatus(start([&] { return static_cast<int>(outcome()); })), static_cast<int>(wholeAndUndisturbed)) << "leftovers stay";
