@@ -77,7 +77,7 @@ TEST(SerialiserTest, EscapesText) {
 
 TEST(SerialiserTest, EscapesAtEveryPlaceOfAText) {
     for (std::size_t before = 0; before < 70; ++before) {
-        for (const std::size_t behind : {0, 1, 15, 16, 17, 40}) {
+        for (const std::size_t behind : {0U, 1U, 15U, 16U, 17U, 40U}) {
             const std::string start(before, 'a');
             const std::string end(behind, 'b');
             EXPECT_EQ(rewritten("<title>" + start + "&lt;&amp;&nbsp;  \n" + end + "</title>"),
