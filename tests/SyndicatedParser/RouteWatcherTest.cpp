@@ -11,7 +11,6 @@
 #include <string>
 #include <sys/wait.h>
 #include <unistd.h>
-#include <vector>
 
 namespace brindle {
 namespace {
@@ -22,17 +21,28 @@ bool ip(const std::string& arguments) {
     return std::system(("ip " + arguments + " >/dev/null 2>&1").c_str()) == 0;
 }
 
-/// Runs `body` in a child process with a network of its own, in which nothing is up; its result is the child's exit status.
-int inNetworkOfItsOwn(const std::function<int()>& body) {
-    const pid_t child = ::fork();
-    if (child == 0) {
-        const bool isApart = ::unshare(CLONE_NEWNET) == 0 || ::unshare(CLONE_NEWUSER | CLONE_NEWNET) == 0;
-        ::_exit(isApart && ip("link add in0 type veth peer name out0") ? body() : cannotTell);
-    }
-    int status = 0;
-    ::waitpid(child, &status, 0);
-    return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+/// Gives the calling process a network of its own, in which nothing is up; ends it where that can't be had.
+void leaveNetwork() {
+    const bool isApart = ::unshare(CLONE_NEWNET) == 0 || ::unshare(CLONE_NEWUSER | CLONE_NEWNET) == 0;
+    if (!isApart || !ip("link add in0 type veth peer name out0"))
+        ::_exit(cannotTell);
 }
+
+/// Runs `body` in a fresh process with a network of its own, and skips the test where there can be none. Its result is the number of the
+/// step that failed, or 0.
+#define EXPECT_HELD_APART(body)                                                                                                            \
+    do {                                                                                                                                   \
+        GTEST_FLAG_SET(death_test_style, "threadsafe");                                                                                    \
+        int ended = -1;                                                                                                                    \
+        const auto note = [&ended](int status) {                                                                                           \
+            ended = WIFEXITED(status) ? WEXITSTATUS(status) : -1;                                                                          \
+            return true;                                                                                                                   \
+        };                                                                                                                                 \
+        EXPECT_EXIT((leaveNetwork(), ::_exit((body)())), note, "");                                                                        \
+        if (ended == cannotTell)                                                                                                           \
+            GTEST_SKIP() << "no network namespaces here";                                                                                  \
+        EXPECT_EQ(ended, 0) << "the step that failed";                                                                                     \
+    } while (false)
 
 bool addDefaultRoute() {
     return ip("address add 10.9.0.2/24 dev in0") && ip("link set out0 up") && ip("link set in0 up") && ip("route add default via 10.9.0.1");
@@ -57,20 +67,12 @@ private:
     std::uint32_t _last = 1234;
 };
 
-#define EXPECT_HELD(status)                                                                                                                \
-    do {                                                                                                                                   \
-        const int held = (status);                                                                                                         \
-        if (held == cannotTell)                                                                                                            \
-            GTEST_SKIP() << "no network namespaces here";                                                                                  \
-        EXPECT_EQ(held, 0) << "the step that failed";                                                                                      \
-    } while (false)
-
 TEST(RoutingTableTest, FindsNoRouteInAnEmptyNetwork) {
-    EXPECT_HELD(inNetworkOfItsOwn([] { return RoutingTable::defaultRouteFlags() == 0U ? 0 : 1; }));
+    EXPECT_HELD_APART([] { return RoutingTable::defaultRouteFlags() == 0U ? 0 : 1; });
 }
 
 TEST(RoutingTableTest, FindsADefaultRouteAndNoOther) {
-    EXPECT_HELD(inNetworkOfItsOwn([] {
+    const auto steps = [] {
         if (!ip("address add 10.9.0.2/24 dev in0") || !ip("link set out0 up") || !ip("link set in0 up"))
             return cannotTell;
         if (RoutingTable::defaultRouteFlags() != 0U)
@@ -82,11 +84,12 @@ TEST(RoutingTableTest, FindsADefaultRouteAndNoOther) {
         if (!ip("route add default via 10.9.0.1"))
             return cannotTell;
         return RoutingTable::defaultRouteFlags() == NetworkReachabilityFlags::reachable ? 0 : 3;
-    }));
+    };
+    EXPECT_HELD_APART(steps);
 }
 
 TEST(RouteWatcherTest, TellsEveryWatchWhenTheRouteComesAndGoes) {
-    EXPECT_HELD(inNetworkOfItsOwn([] {
+    const auto steps = [] {
         Told first;
         Told second;
         const DispatchQueue queue("watch");
@@ -102,7 +105,8 @@ TEST(RouteWatcherTest, TellsEveryWatchWhenTheRouteComesAndGoes) {
         if (!ip("link set in0 down"))
             return cannotTell;
         return first.comesTo(0) && second.comesTo(0) && RouteWatcher::shared().flags() == 0U ? 0 : 3;
-    }));
+    };
+    EXPECT_HELD_APART(steps);
 }
 
 } // namespace
