@@ -35,12 +35,12 @@ void appendInteger(std::string& bytes, std::int64_t integer) {
     // A negative number is a large one without its sign, so it takes eight bytes, the only width that has a sign.
     const auto number = static_cast<std::uint64_t>(integer);
     const std::size_t size = width(number);
-    bytes.push_back(static_cast<char>(0x10 | std::countr_zero(size)));
+    bytes.push_back(static_cast<char>(0x10U | static_cast<unsigned>(std::countr_zero(size))));
     appendNumber(bytes, number, size);
 }
 
 void appendMarker(std::string& bytes, std::uint8_t kind, std::size_t count) {
-    bytes.push_back(static_cast<char>(kind << 4 | std::min<std::size_t>(count, 15)));
+    bytes.push_back(static_cast<char>(std::size_t(kind) << 4 | std::min<std::size_t>(count, 15)));
     if (count >= 15)
         appendInteger(bytes, static_cast<std::int64_t>(count));
 }

@@ -9,7 +9,7 @@ namespace brindle {
 
 /// Dates from text by a Unicode date pattern (UTS #35), in the user's locale and time zone, strictly: the whole text must match.
 /// White space at both ends of the text is passed over, any other rest gives no date. Details are ICU's: a two-digit year
-/// is read as it reads it, numbers need the pattern's digits, a literal at the pattern's very end may be missing.
+/// is read as it reads it, days and times need two digits, a literal at the pattern's very end may be missing.
 /// The formatters behind it are kept for each thread and pattern. Thread: any.
 class DateFormatter {
 public:
