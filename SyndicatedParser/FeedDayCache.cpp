@@ -1,0 +1,87 @@
+#include "SyndicatedParser/FeedDayCache.hpp"
+
+#include "foundation/UserLocale.hpp"
+
+#include <algorithm>
+#include <array>
+
+namespace brindle {
+
+namespace {
+
+constexpr std::size_t maximumTextSize = 64;
+constexpr std::size_t maximumDays = 4096;
+constexpr std::string_view firstSecond = "00:00:00";
+constexpr std::string_view lastSecond = "23:59:59";
+constexpr std::chrono::seconds lastSecondOfDay(86399);
+
+bool isDigit(char c) {
+    return c >= '0' && c <= '9';
+}
+
+/// The number that two digits make, up to `maximum`; absent for anything else.
+std::optional<int> twoDigits(std::string_view text, int maximum) {
+    if (!isDigit(text[0]) || !isDigit(text[1]))
+        return std::nullopt;
+    const int number = (text[0] - '0') * 10 + (text[1] - '0');
+    return number <= maximum ? std::optional(number) : std::nullopt;
+}
+
+/// The time that an "HH:mm:ss" is into its day; absent for any other text.
+std::optional<std::chrono::seconds> timeOf(std::string_view text) {
+    if (text[2] != ':' || text[5] != ':')
+        return std::nullopt;
+    const std::optional<int> hours = twoDigits(text, 23);
+    const std::optional<int> minutes = twoDigits(text.substr(3), 59);
+    const std::optional<int> seconds = twoDigits(text.substr(6), 59);
+    if (!hours || !minutes || !seconds)
+        return std::nullopt;
+    return std::chrono::hours(*hours) + std::chrono::minutes(*minutes) + std::chrono::seconds(*seconds);
+}
+
+/// Where the "HH:mm:ss" of `text` begins: at its first colon, with no digit on either side; `npos` when there is none.
+std::size_t timeOfDayIn(std::string_view text) {
+    const std::size_t colon = text.find(':');
+    if (colon == std::string_view::npos || colon < 2 || colon + 6 > text.size())
+        return std::string_view::npos;
+    const std::size_t begin = colon - 2;
+    const std::size_t end = colon + 6;
+    const bool isPartOfMore = (begin > 0 && isDigit(text[begin - 1])) || (end < text.size() && isDigit(text[end]));
+    return isPartOfMore ? std::string_view::npos : begin;
+}
+
+} // namespace
+
+std::optional<Date> FeedDayCache::date(std::string_view text) {
+    const std::size_t begin = timeOfDayIn(text);
+    if (text.size() > maximumTextSize || begin == std::string_view::npos)
+        return _reader(text);
+    const std::optional<std::chrono::seconds> time = timeOf(text.substr(begin, firstSecond.size()));
+    if (!time)
+        return _reader(text);
+    std::array<char, maximumTextSize> day{};
+    std::ranges::copy(text, day.begin());
+    std::ranges::copy(firstSecond, day.begin() + static_cast<std::ptrdiff_t>(begin));
+    const std::optional<Date> first = midnight({day.data(), text.size()}, begin);
+    return first ? *first + *time : _reader(text);
+}
+
+std::optional<Date> FeedDayCache::midnight(std::string_view day, std::size_t timeOfDay) {
+    if (const std::uint64_t changes = userLocaleChanges(); changes != _localeChanges) {
+        _midnights.clear();
+        _localeChanges = changes;
+    }
+    if (const auto found = _midnights.find(day); found != _midnights.end())
+        return found->second;
+    if (_midnights.size() >= maximumDays)
+        _midnights.clear();
+    std::string end(day);
+    end.replace(timeOfDay, lastSecond.size(), lastSecond);
+    std::optional<Date> first = _reader(day);
+    const std::optional<Date> last = _reader(end);
+    if (!first || !last || *last - *first != lastSecondOfDay)
+        first.reset();
+    return _midnights.emplace(day, first).first->second;
+}
+
+} // namespace brindle

@@ -1,0 +1,40 @@
+#pragma once
+
+#include "foundation/Date.hpp"
+
+#include <cstddef>
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+
+namespace brindle {
+
+/// Dates from text by a slow reader that is asked once for each day: texts that differ in nothing but their time of day, "HH:mm:ss", differ
+/// by that much time, where neither end of the day shows that its clocks were changed. What the reader makes of a day's other texts
+/// (locale, calendar, zone) is all its own. Thread: one.
+class FeedDayCache {
+public:
+    using Reader = std::optional<Date> (*)(std::string_view text);
+
+    explicit FeedDayCache(Reader reader) : _reader(reader) {}
+
+    /// What the reader makes of `text`.
+    std::optional<Date> date(std::string_view text);
+
+private:
+    struct Hash : std::hash<std::string_view> {
+        using is_transparent = void;
+    };
+
+    std::optional<Date> midnight(std::string_view day, std::size_t timeOfDay);
+
+    Reader _reader;
+    std::uint64_t _localeChanges = 0;
+    /// The date of each day's first second, by its text; absent for a day that has to be read as it stands.
+    std::unordered_map<std::string, std::optional<Date>, Hash, std::equal_to<>> _midnights;
+};
+
+} // namespace brindle
