@@ -59,29 +59,35 @@ std::optional<Date> FeedDayCache::date(std::string_view text) {
     const std::optional<std::chrono::seconds> time = timeOf(text.substr(begin, firstSecond.size()));
     if (!time)
         return _reader(text);
-    std::array<char, maximumTextSize> day{};
-    std::ranges::copy(text, day.begin());
-    std::ranges::copy(firstSecond, day.begin() + static_cast<std::ptrdiff_t>(begin));
-    const std::optional<Date> first = midnight({day.data(), text.size()}, begin);
-    return first ? *first + *time : _reader(text);
+    std::array<char, maximumTextSize> buffer{};
+    std::ranges::copy(text, buffer.begin());
+    std::ranges::copy(firstSecond, buffer.begin() + static_cast<std::ptrdiff_t>(begin));
+    const Day& known = day({buffer.data(), text.size()}, begin);
+    if (!known.isRegular)
+        return _reader(text);
+    return known.first ? std::optional(*known.first + *time) : std::nullopt;
 }
 
-std::optional<Date> FeedDayCache::midnight(std::string_view day, std::size_t timeOfDay) {
+const FeedDayCache::Day& FeedDayCache::day(std::string_view firstText, std::size_t timeOfDay) {
     if (const std::uint64_t changes = userLocaleChanges(); changes != _localeChanges) {
-        _midnights.clear();
+        _days.clear();
         _localeChanges = changes;
     }
-    if (const auto found = _midnights.find(day); found != _midnights.end())
+    if (const auto found = _days.find(firstText); found != _days.end())
         return found->second;
-    if (_midnights.size() >= maximumDays)
-        _midnights.clear();
-    std::string end(day);
-    end.replace(timeOfDay, lastSecond.size(), lastSecond);
-    std::optional<Date> first = _reader(day);
-    const std::optional<Date> last = _reader(end);
-    if (!first || !last || *last - *first != lastSecondOfDay)
-        first.reset();
-    return _midnights.emplace(day, first).first->second;
+    if (_days.size() >= maximumDays)
+        _days.clear();
+    return _days.emplace(firstText, readDay(firstText, timeOfDay)).first->second;
+}
+
+FeedDayCache::Day FeedDayCache::readDay(std::string_view firstText, std::size_t timeOfDay) const {
+    std::string lastText(firstText);
+    lastText.replace(timeOfDay, lastSecond.size(), lastSecond);
+    const std::optional<Date> first = _reader(firstText);
+    const std::optional<Date> last = _reader(lastText);
+    if (!first || !last)
+        return {std::nullopt, !first && !last};
+    return {first, *last - *first == lastSecondOfDay};
 }
 
 } // namespace brindle

@@ -29,12 +29,18 @@ private:
         using is_transparent = void;
     };
 
-    std::optional<Date> midnight(std::string_view day, std::size_t timeOfDay);
+    /// What is known of a day, by the text of its first second.
+    struct Day {
+        std::optional<Date> first; ///< absent when the texts of this day are no dates
+        bool isRegular = false;    ///< whether time runs evenly from the first to the last second
+    };
+
+    const Day& day(std::string_view firstText, std::size_t timeOfDay);
+    Day readDay(std::string_view firstText, std::size_t timeOfDay) const;
 
     Reader _reader;
     std::uint64_t _localeChanges = 0;
-    /// The date of each day's first second, by its text; absent for a day that has to be read as it stands.
-    std::unordered_map<std::string, std::optional<Date>, Hash, std::equal_to<>> _midnights;
+    std::unordered_map<std::string, Day, Hash, std::equal_to<>> _days;
 };
 
 } // namespace brindle
