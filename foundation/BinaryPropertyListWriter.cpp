@@ -75,6 +75,7 @@ class Numbering {
 public:
     explicit Numbering(const PropertyList& list) {
         _numbers.reserve(list.objects.size());
+        _texts.reserve(list.objects.size() / 2);
         for (Index index = 0; index < list.objects.size(); ++index) {
             const Index next = static_cast<Index>(_written.size());
             const Index number = std::visit([&](const auto& object) { return numberOf(object, next); }, list.objects[index]);
