@@ -60,7 +60,7 @@ tl::expected<void, CommandError> ArgumentParser::takeAll(const std::vector<Optio
 }
 
 tl::expected<void, CommandError> ArgumentParser::takeOption(const std::vector<Option>& known, Arguments& arguments) {
-    const std::string word = *takeWord();
+    const std::string word = takeWord().value_or(std::string());
     if (word == "--") {
         _optionsEnded = true;
         return {};
