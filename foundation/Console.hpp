@@ -14,7 +14,8 @@ public:
     /// Writes one line; `line` comes without its line end.
     static void print(std::string_view line);
 
-    /// Sends all further lines to `sink` (given without line end, called under the console's lock), and back to standard output for an empty one.
+    /// Sends all further lines to `sink` (given without line end, called under the console's lock), and back to standard output for an
+    /// empty one.
     static void redirect(Sink sink);
 };
 

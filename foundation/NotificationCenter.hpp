@@ -13,8 +13,8 @@ struct Notification {
     const void* object = nullptr;
 };
 
-/// Delivers notices to observers on the poster's thread, in the order of their registration. Thread: any; an observer that is removed by another thread while a notice
-/// is under way may still get it.
+/// Delivers notices to observers on the poster's thread, in the order of their registration. Thread: any; an observer that is removed by
+/// another thread while a notice is under way may still get it.
 class NotificationCenter {
 public:
     using Observer = std::function<void(const Notification&)>;
