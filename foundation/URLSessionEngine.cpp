@@ -102,7 +102,7 @@ void URLSessionEngine::followRedirect(const std::shared_ptr<URLSessionDataTask>&
     const auto session = task->_session.lock();
     const auto kept = std::make_shared<Outcome>(std::move(outcome));
     const std::weak_ptr<URLSessionDataTask> weakTask = task;
-    session->_delegate->willPerformRedirection(*task, response, newRequest, [this, weakTask, kept](std::optional<URLRequest> request) {
+    session->_delegate->willPerformRedirection(*task, response, newRequest, [weakTask, kept](std::optional<URLRequest> request) {
         const auto asked = weakTask.lock();
         if (!asked || asked->_ended)
             return;
