@@ -138,7 +138,8 @@ TEST_F(FeedItemArticleTest, GivesALinkTheFirstRelationForAValueThatIsNone) {
     for (const std::int64_t relation : {5, 6, 7, -1})
         decoder.dictionaries["links"].push_back({{"linkRelation", relation}});
     std::vector<SyndicatedLinkRelation> relations;
-    for (const SyndicatedLink& link : FeedItemArticle::decode(decoder, clock->now())->entry->links)
+    const auto article = FeedItemArticle::decode(decoder, clock->now());
+    for (const SyndicatedLink& link : article->entry->links)
         relations.push_back(link.relation);
     EXPECT_THAT(relations, ElementsAre(SyndicatedLinkRelation::unknown, SyndicatedLinkRelation::alternate,
                                SyndicatedLinkRelation::alternate, SyndicatedLinkRelation::alternate));
@@ -159,7 +160,8 @@ TEST_F(FeedItemArticleTest, SkipsAnEnclosureThatLacksAnyOfItsKeysOrWhoseURLIsEmp
     decoder.dictionaries["enclosures"] = {{length, type}, {address, type}, {address, length}, {{"enclosureURL", ""}, length, type},
         {{"enclosureURL", std::int64_t{1}}, length, type}, {address, length, {"enclosureType", std::int64_t{4}}}, {address, length, type}};
     std::vector<SyndicatedEnclosure::Kind> kinds;
-    for (const SyndicatedEnclosure& enclosure : FeedItemArticle::decode(decoder, clock->now())->entry->enclosures)
+    const auto article = FeedItemArticle::decode(decoder, clock->now());
+    for (const SyndicatedEnclosure& enclosure : article->entry->enclosures)
         kinds.push_back(enclosure.kind);
     EXPECT_THAT(kinds, ElementsAre(SyndicatedEnclosure::Kind::other, SyndicatedEnclosure::Kind::image));
 }

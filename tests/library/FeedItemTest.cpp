@@ -280,6 +280,17 @@ TEST_F(FeedItemTest, ParsesTheStoredDocumentAgainAfterAFailedConnectionAndReport
     EXPECT_EQ(restarted->data, restarted->session().feed()->data);
 }
 
+TEST_F(FeedItemTest, RemembersThatItsConnectionFailedUntilItFetchesAgain) {
+    const auto item = makeItem();
+    EXPECT_FALSE(item->lastConnectionFailed());
+    item->data = rss({{"A", ""}});
+    item->syndicatedSessionDidFail(item->session(), error(SyndicatedSessionError::Case::connection));
+    nextCall(0);
+    EXPECT_TRUE(item->lastConnectionFailed());
+    item->parse();
+    EXPECT_FALSE(item->lastConnectionFailed());
+}
+
 TEST_F(FeedItemTest, ReportsAsNewFromTheStoredDocumentWhatItsTableDoesNotKnow) {
     const auto item = makeItem();
     item->data = rss({{"A", ""}});
