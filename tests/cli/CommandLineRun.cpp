@@ -1,0 +1,123 @@
+#include "tests/cli/CommandLineRun.hpp"
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <cstring>
+#include <fcntl.h>
+#include <fstream>
+#include <iterator>
+#include <spawn.h>
+#include <sstream>
+#include <sys/wait.h>
+#include <unistd.h>
+
+extern char** environ;
+
+namespace brindle {
+
+namespace {
+
+std::string contents(const std::filesystem::path& path) {
+    std::ifstream file(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+std::vector<std::string> environmentWith(const std::vector<std::pair<std::string, std::string>>& changes) {
+    std::vector<std::string> variables;
+    for (char** variable = environ; *variable; ++variable) {
+        const std::string text = *variable;
+        const auto isChanged = [&](const auto& change) { return text.starts_with(change.first + '='); };
+        if (std::none_of(changes.begin(), changes.end(), isChanged))
+            variables.push_back(text);
+    }
+    for (const auto& [name, value] : changes)
+        variables.push_back(name + '=' + value);
+    return variables;
+}
+
+std::vector<char*> pointers(std::vector<std::string>& texts) {
+    std::vector<char*> list;
+    for (std::string& text : texts)
+        list.push_back(text.data());
+    list.push_back(nullptr);
+    return list;
+}
+
+} // namespace
+
+std::vector<std::string> CommandLineRun::messages() const {
+    std::vector<std::string> found;
+    std::istringstream lines(errors);
+    for (std::string line; std::getline(lines, line);) {
+        if (line.starts_with("brindle-cli: "))
+            found.push_back(line);
+    }
+    return found;
+}
+
+CommandLineRun CommandLineTest::call(const std::vector<std::string>& arguments) {
+    const std::string inputFile = file("stdin", input);
+    const std::string outputFile = outputPath.empty() ? (_folder / "stdout").string() : outputPath;
+    const std::string errorFile = errorPath.empty() ? (_folder / "stderr").string() : errorPath;
+    posix_spawn_file_actions_t actions;
+    ::posix_spawn_file_actions_init(&actions);
+    const std::array<const std::string*, 3> files = {&inputFile, &outputFile, &errorFile};
+    for (int descriptor = 0; descriptor < 3; ++descriptor) {
+        const int mode = descriptor == 0 ? O_RDONLY : O_WRONLY | O_CREAT | O_TRUNC;
+        ::posix_spawn_file_actions_addopen(&actions, descriptor, files[static_cast<std::size_t>(descriptor)]->c_str(), mode, 0600);
+    }
+    for (const int descriptor : closedDescriptors)
+        ::posix_spawn_file_actions_addclose(&actions, descriptor);
+    std::vector<std::string> words = {BRINDLE_BINARY_DIR "/bin/brindle-cli"};
+    words.insert(words.end(), arguments.begin(), arguments.end());
+    std::vector<std::string> variables = environmentWith(environment);
+    pid_t process = 0;
+    const int error = ::posix_spawn(&process, words[0].c_str(), &actions, nullptr, pointers(words).data(), pointers(variables).data());
+    ::posix_spawn_file_actions_destroy(&actions);
+    CommandLineRun result;
+    if (error != 0) {
+        ADD_FAILURE() << words[0] << ": " << std::strerror(error);
+        return result;
+    }
+    int status = 0;
+    while (::waitpid(process, &status, 0) < 0 && errno == EINTR) {
+    }
+    result.status = WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
+    result.output = outputPath.empty() ? contents(outputFile) : std::string();
+    result.errors = errorPath.empty() ? contents(errorFile) : std::string();
+    return result;
+}
+
+CommandLineRun CommandLineTest::run(const std::vector<std::string>& arguments) {
+    std::vector<std::string> words = {
+        "--support-dir", supportFolder().string(), "--now", std::string(now), "--locale", "en_US", "--timezone", "GMT"};
+    words.insert(words.end(), arguments.begin(), arguments.end());
+    return call(words);
+}
+
+nlohmann::ordered_json CommandLineTest::runJSON(const std::vector<std::string>& arguments, int status) {
+    std::vector<std::string> words = {"--json"};
+    words.insert(words.end(), arguments.begin(), arguments.end());
+    const CommandLineRun result = run(words);
+    EXPECT_EQ(result.status, status) << result.errors;
+    EXPECT_FALSE(result.json().is_discarded()) << result.output;
+    return result.json();
+}
+
+void CommandLineTest::expectError(const std::vector<std::string>& arguments, int status, std::string_view part) {
+    const CommandLineRun result = run(arguments);
+    EXPECT_EQ(result.status, status) << result.errors;
+    EXPECT_EQ(result.output, "");
+    const auto messages = result.messages();
+    ASSERT_EQ(messages.size(), 1U) << result.errors;
+    EXPECT_NE(messages[0].find(part), std::string::npos) << messages[0];
+}
+
+std::string CommandLineTest::file(std::string_view name, std::string_view bytes) {
+    const std::filesystem::path path = _folder / name;
+    std::ofstream(path, std::ios::binary) << bytes;
+    return path.string();
+}
+
+} // namespace brindle

@@ -1,0 +1,56 @@
+#pragma once
+
+#include "tests/support/TemporaryFolder.hpp"
+
+#include <filesystem>
+#include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace brindle {
+
+/// What became of one call of the program.
+struct CommandLineRun {
+    int status = -1; ///< the exit status; 128 and the signal where one ended it
+    std::string output;
+    std::string errors;
+
+    nlohmann::ordered_json json() const { return nlohmann::ordered_json::parse(output, nullptr, false); }
+    /// The lines of standard error that are the program's own messages.
+    std::vector<std::string> messages() const;
+};
+
+/// Calls the real program on a library of its own, with a clock that stands still at `now`, in the time zone GMT and the locale en_US.
+class CommandLineTest : public ::testing::Test {
+protected:
+    static constexpr std::string_view now = "2020-02-03T04:05:06.789Z";
+
+    /// Calls the program with the arguments alone.
+    CommandLineRun call(const std::vector<std::string>& arguments);
+    /// Calls the program with the fixture's global options in front.
+    CommandLineRun run(const std::vector<std::string>& arguments);
+    /// As `run` with `--json`; fails the test where standard output is no JSON.
+    nlohmann::ordered_json runJSON(const std::vector<std::string>& arguments, int status = 0);
+
+    /// Expects that a call fails with `status`, prints no result, and gives one message that holds `part`.
+    void expectError(const std::vector<std::string>& arguments, int status, std::string_view part);
+
+    /// Writes a file into the test's folder and gives its path.
+    std::string file(std::string_view name, std::string_view bytes);
+    std::filesystem::path supportFolder() const { return _folder / "support"; }
+    const TemporaryFolder& folder() const { return _folder; }
+
+    std::string input;                                            ///< the program's standard input
+    std::string outputPath;                                       ///< where standard output goes instead of the result
+    std::string errorPath;                                        ///< where standard error goes instead
+    std::vector<int> closedDescriptors;                           ///< standard streams that the program gets closed
+    std::vector<std::pair<std::string, std::string>> environment; ///< changes to the environment
+
+private:
+    TemporaryFolder _folder;
+};
+
+} // namespace brindle
