@@ -13,6 +13,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace brindle {
@@ -27,6 +28,8 @@ constexpr std::int64_t greatestRate = std::numeric_limits<std::int64_t>::max() /
 /// What the flow came to, for a caller that waits.
 class AddFeedEnd : public AddFeedFlowDelegate {
 public:
+    explicit AddFeedEnd(std::shared_ptr<FeedAnswers> answers) : _answers(std::move(answers)) {}
+
     struct Failed {
         Failure failure;
         Alert alert;
@@ -40,7 +43,15 @@ public:
 
     void addFeedFlowDidFail(AddFeedFlow&, Failure failure, const Alert& alert) override { failed = Failed{failure, alert}; }
     void addFeedFlowDidDiscoverFeedItems(AddFeedFlow&) override { discovered = true; }
-    void addFeedFlowDidCommit(AddFeedFlow&, const AddFeedFlow::FeedItems& feeds) override { committed = feeds; }
+    void addFeedFlowDidCommit(AddFeedFlow&, const AddFeedFlow::FeedItems& feeds) override {
+        committed = feeds;
+        // What was tried before has an icon step open, which may end as soon as this returns.
+        for (const std::shared_ptr<FeedItem>& feed : feeds)
+            _answers->expect(*feed, discovered ? 0 : 1);
+    }
+
+private:
+    const std::shared_ptr<FeedAnswers> _answers;
 };
 
 std::string message(const AddFeedEnd::Failed& failed, const std::string& address) {
@@ -109,12 +120,9 @@ tl::expected<void, CommandError> commitPicked(const CommandContext& context, Add
 }
 
 /// Waits for the fetch that follows a commit, and stores what it brought.
-CommandResult finish(const CommandContext& context, Library& library, const AddFeedFlow::FeedItems& feeds, bool wasTried) {
-    for (const std::shared_ptr<FeedItem>& feed : feeds) {
+CommandResult finish(const CommandContext& context, Library& library, const AddFeedFlow::FeedItems& feeds) {
+    for (const std::shared_ptr<FeedItem>& feed : feeds)
         feed->invalidateTimer();
-        // The icon step of the try itself ends after the commit.
-        library.answers().expect(*feed, wasTried ? 1 : 0);
-    }
     library.answers().wait(timeLimit);
     const auto saved = library.save();
     if (!saved)
@@ -137,7 +145,7 @@ CommandResult run(const CommandContext& context) {
     if (!opened)
         return tl::unexpected(opened.error());
     Library& library = **opened;
-    const auto end = std::make_shared<AddFeedEnd>();
+    const auto end = std::make_shared<AddFeedEnd>(library.sharedAnswers());
     const auto flow = AddFeedFlow::make(library.sharedManager(), end);
     flow->name = context.arguments.value("name").value_or(std::string());
     flow->updateRate = *rate;
@@ -152,7 +160,7 @@ CommandResult run(const CommandContext& context) {
         if (const auto committed = commitPicked(context, *flow, *numbers); !committed)
             return tl::unexpected(committed.error());
     }
-    return finish(context, library, end->committed, !end->discovered);
+    return finish(context, library, end->committed);
 }
 
 } // namespace

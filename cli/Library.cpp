@@ -2,9 +2,11 @@
 
 #include "Brindle/library/FeedGroup.hpp"
 #include "Brindle/library/LibraryArchive.hpp"
+#include "cli/GatedRoute.hpp"
 #include "foundation/FileManager.hpp"
 #include "foundation/Text.hpp"
 
+#include <cerrno>
 #include <chrono>
 #include <cstdint>
 #include <sys/stat.h>
@@ -80,8 +82,8 @@ tl::expected<std::unique_ptr<Library>, CommandError> Library::open(const Setting
             return tl::unexpected(std::move(taken.error()));
         lock = *std::move(taken);
     }
-    const SyndicatedSessionEnvironment environment = {
-        settings.clock, network == Network::none ? absentNetworkRoute() : defaultNetworkRoute(), nullptr};
+    const auto route = std::make_shared<GatedRoute>(network == Network::none ? absentNetworkRoute() : defaultNetworkRoute());
+    const SyndicatedSessionEnvironment environment = {settings.clock, route, nullptr};
     std::unique_ptr<Library> library(new Library(*folder, std::move(lock), environment));
     if (writes)
         library->_manager->createSupportDirectories();
@@ -91,6 +93,8 @@ tl::expected<std::unique_ptr<Library>, CommandError> Library::open(const Setting
         if (auto saved = library->save(); !saved)
             return tl::unexpected(std::move(saved.error()));
     }
+    // Only now, that no session which the load made fetches by itself.
+    route->open();
     return library;
 }
 
@@ -101,10 +105,12 @@ Library::Library(fs::path folder, std::optional<FileLock> lock, SyndicatedSessio
 tl::expected<void, CommandError> Library::load() {
     _manager->load();
     const fs::path file = _folder / libraryName;
-    if (!_manager->feeds.empty() || !FileManager::fileExists(file))
+    if (!_manager->feeds.empty())
         return {};
     // A library that can't be read loads as an empty one, and the next save would replace it.
     const auto bytes = FileManager::contents(file);
+    if (!bytes && bytes.error().code == ENOENT)
+        return {};
     if (!bytes)
         return failure(bytes.error().message);
     if (const auto root = LibraryArchive::unarchive(*bytes, _manager->environment()); !root)

@@ -32,6 +32,7 @@ public:
     FeedsManager& manager() { return *_manager; }
     const std::shared_ptr<FeedsManager>& sharedManager() const { return _manager; }
     FeedAnswers& answers() { return *_answers; }
+    const std::shared_ptr<FeedAnswers>& sharedAnswers() const { return _answers; }
 
     /// The entry that a command line names: an item by its UUID, any entry by its place from the top ("@2", "@2.0").
     tl::expected<std::shared_ptr<Feed>, CommandError> feed(const std::string& name);
