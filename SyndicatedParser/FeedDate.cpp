@@ -8,8 +8,16 @@ namespace brindle {
 
 namespace {
 
+/// Whether `text` lacks a character that stands for itself in `pattern`: most texts are told from most patterns by that, at once.
+bool isOfAnotherForm(std::string_view text, std::string_view pattern) {
+    return (pattern == FeedFormat::atom && !text.ends_with('Z')) ||
+           (pattern == FeedFormat::atom3 && text.find('.') == std::string_view::npos);
+}
+
 std::optional<Date> dateByPatterns(std::string_view text) {
     for (const std::string_view pattern : FeedFormat::all) {
+        if (isOfAnotherForm(text, pattern))
+            continue;
         if (const std::optional<Date> date = DateFormatter::date(text, pattern))
             return date;
     }

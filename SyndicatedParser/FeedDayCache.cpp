@@ -50,6 +50,19 @@ std::size_t timeOfDayIn(std::string_view text) {
     return isPartOfMore ? std::string_view::npos : begin;
 }
 
+bool areDigits(std::string_view text) {
+    return std::ranges::all_of(text, isDigit);
+}
+
+/// Whether `text`, which has a time of day, ends with "GMT", "+0100" or "+01:00", in all of which time runs evenly.
+bool endsWithFixedZone(std::string_view text) {
+    const auto isOffset = [text](std::size_t size) {
+        const std::string_view zone = text.substr(text.size() - size);
+        return (zone.starts_with('+') || zone.starts_with('-')) && areDigits(zone.substr(1, 2)) && areDigits(zone.substr(size - 2));
+    };
+    return text.ends_with(" GMT") || isOffset(5) || (isOffset(6) && text[text.size() - 3] == ':');
+}
+
 } // namespace
 
 std::optional<Date> FeedDayCache::date(std::string_view text) {
@@ -81,9 +94,11 @@ const FeedDayCache::Day& FeedDayCache::day(std::string_view firstText, std::size
 }
 
 FeedDayCache::Day FeedDayCache::readDay(std::string_view firstText, std::size_t timeOfDay) const {
+    const std::optional<Date> first = _reader(firstText);
+    if (endsWithFixedZone(firstText))
+        return {first, true};
     std::string lastText(firstText);
     lastText.replace(timeOfDay, lastSecond.size(), lastSecond);
-    const std::optional<Date> first = _reader(firstText);
     const std::optional<Date> last = _reader(lastText);
     if (!first || !last)
         return {std::nullopt, !first && !last};

@@ -13,8 +13,8 @@
 namespace brindle {
 
 /// Dates from text by a slow reader that is asked once for each day: texts that differ in nothing but their time of day, "HH:mm:ss", differ
-/// by that much time, where neither end of the day shows that its clocks were changed. What the reader makes of a day's other texts
-/// (locale, calendar, zone) is all its own. Thread: one.
+/// by that much time, where their zone is a fixed one or neither end of the day shows that its clocks were changed. What the reader makes
+/// of a day's text otherwise (locale, calendar, zone) is all its own. Thread: one.
 class FeedDayCache {
 public:
     using Reader = std::optional<Date> (*)(std::string_view text);
