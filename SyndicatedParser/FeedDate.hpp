@@ -17,7 +17,8 @@ struct FeedFormat {
     static constexpr std::array all = {rss, atom, atom2, atom3};
 };
 
-/// The date of a feed's date text by the first pattern that it matches, in the user's locale and time zone. Absent for any other text. Thread: any.
+/// The date of a feed's date text by the first pattern that it matches, in the user's locale and time zone. Absent for any other text.
+/// Thread: any.
 std::optional<Date> parseFeedDate(std::string_view text);
 
 } // namespace brindle
