@@ -55,7 +55,11 @@ void SyndicatedSessionPass::didParse(const SyndicatedFeedParserResult& result, s
     // Kept as is: a parser that reports its failure twice makes the session fail twice.
     if (!result)
         return fail(SyndicatedSessionError::Case::invalidFeed);
-    _feed->data = encoding == StringEncoding::utf8 ? std::optional(std::move(data)) : encode(data, encoding);
+    _feed->data.reset();
+    if (encoding == StringEncoding::utf8)
+        _feed->data = std::move(data);
+    else if (auto bytes = encode(data, encoding))
+        _feed->data = *std::move(bytes);
     onMain([](SyndicatedSession& session, SyndicatedSessionDelegate* delegate) {
         if (delegate)
             delegate->syndicatedSessionDidFinishParsing(session);

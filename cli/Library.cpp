@@ -162,7 +162,7 @@ void Library::bringBack(const FeedsManager::Feeds& list) {
     for (const std::shared_ptr<FeedItem>& item : FeedsManager::items(list)) {
         if (item->data.empty())
             continue;
-        item->session().start(item->data);
+        item->session().start(std::string(item->data.view()));
         _answers->expect(*item);
     }
     // Parsing always ends; there is nothing from outside to wait for.

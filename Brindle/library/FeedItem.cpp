@@ -163,7 +163,7 @@ void FeedItem::syndicatedSessionDidFinishParsing(SyndicatedSession& session) {
     // so that an article that comes back keeps its state.
     for (std::size_t i = 0; i < keys.size(); ++i)
         articleStateCache.insert_or_assign(std::move(keys[i]), static_cast<std::int64_t>(_articles[i]->entry->state()));
-    data = feed->data.value_or(std::string());
+    data = feed->data.value_or(SharedBytes());
     if (const auto receiver = delegate.lock())
         receiver->feedItemDidFinishParsing(*this, newArticles);
 }
@@ -175,7 +175,7 @@ void FeedItem::syndicatedSessionDidFail(SyndicatedSession&, const SyndicatedSess
         _lastConnectionFailed = true;
         Console::print("A connection error occured: " + (error.error ? error.error->description : "unknown"));
         if (!data.empty())
-            return _session->start(data);
+            return _session->start(std::string(data.view()));
         reported = error.error ? std::optional<FeedItemError>(*error.error) : std::nullopt;
     } else if (const auto host = url().host(); host && name().empty()) {
         setName(std::string(*host));

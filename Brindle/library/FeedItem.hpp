@@ -4,6 +4,7 @@
 #include "Brindle/library/Feed.hpp"
 #include "Brindle/library/FeedItemDelegate.hpp"
 #include "SyndicatedParser/SyndicatedSession.hpp"
+#include "foundation/SharedBytes.hpp"
 #include "foundation/Timer.hpp"
 #include "foundation/UUID.hpp"
 
@@ -38,7 +39,7 @@ public:
     std::int64_t updateRate;    ///< minutes
     std::string username;       ///< archived, never sent
     std::string password;       ///< never archived, never sent
-    std::string data;           ///< the document of the latest good fetch; empty when there is none
+    SharedBytes data;           ///< the document of the latest good fetch; empty when there is none
     ArticleStateCache articleStateCache;
 
     /// The stored name; where that is empty, the title of the feed as parsed.

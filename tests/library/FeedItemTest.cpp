@@ -147,7 +147,7 @@ TEST_F(FeedItemTest, TakesOnlyTheValueOneForRead) {
 TEST_F(FeedItemTest, TakesADocumentWithoutEntriesForItsNewContent) {
     const auto item = makeItem();
     parse(*item, rss({{"A", ""}}));
-    const std::string first = item->data;
+    const SharedBytes first = item->data;
     const auto call = parse(*item, rss({}));
     EXPECT_EQ(call.name, "feedItemDidFinishParsing");
     EXPECT_THAT(call.newArticles, IsEmpty());
@@ -301,7 +301,7 @@ TEST_F(FeedItemTest, ReportsAsNewFromTheStoredDocumentWhatItsTableDoesNotKnow) {
 TEST_F(FeedItemTest, ReportsEveryOtherFailureAsItIsAndKeepsItsArticles) {
     const auto item = makeItem();
     parse(*item, rss({{"A", ""}}));
-    const std::string data = item->data;
+    const SharedBytes data = item->data;
     using Case = SyndicatedSessionError::Case;
     for (const Case kind : {Case::other, Case::noData, Case::noURL, Case::invalidFeed}) {
         item->syndicatedSessionDidFail(item->session(), error(kind));
@@ -473,7 +473,7 @@ TEST_F(FeedItemTest, EndsTheProcessForARateThatDoesNotFit) {
     const auto item = makeItem();
     item->updateRate = std::numeric_limits<std::int64_t>::max() / 60 + 1;
     ::testing::FLAGS_gtest_death_test_style = "threadsafe";
-    EXPECT_DEATH(item->scheduleUpdates(false), "Fatal error: ");
+    EXPECT_DEATH((removeFolder(), item->scheduleUpdates(false)), "Fatal error: ");
 }
 
 TEST_F(FeedItemTest, EndsItsTimerAndTellsOfItsEnd) {
