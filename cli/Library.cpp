@@ -87,8 +87,11 @@ tl::expected<std::unique_ptr<Library>, CommandError> Library::open(const Setting
     std::unique_ptr<Library> library(new Library(*folder, std::move(lock), environment));
     if (writes)
         library->_manager->createSupportDirectories();
-    if (auto loaded = library->load(); !loaded)
-        return tl::unexpected(std::move(loaded.error()));
+    library->_manager->load();
+    if (writes) {
+        if (auto readable = library->checkStoredTree(); !readable)
+            return tl::unexpected(std::move(readable.error()));
+    }
     if (imports) {
         if (auto saved = library->save(); !saved)
             return tl::unexpected(std::move(saved.error()));
@@ -102,12 +105,11 @@ Library::Library(fs::path folder, std::optional<FileLock> lock, SyndicatedSessio
     : _folder(std::move(folder)), _lock(std::move(lock)), _answers(std::make_shared<FeedAnswers>()),
       _manager(std::make_shared<FeedsManager>(_folder, std::move(environment), _answers)) {}
 
-tl::expected<void, CommandError> Library::load() {
-    _manager->load();
+tl::expected<void, CommandError> Library::checkStoredTree() const {
     const fs::path file = _folder / libraryName;
     if (!_manager->feeds.empty())
         return {};
-    // A library that can't be read loads as an empty one, and the next save would replace it.
+    // A library that can't be read loads as an empty one. To look at it does no harm, but the next save would replace it.
     const auto bytes = FileManager::contents(file);
     if (!bytes && bytes.error().code == ENOENT)
         return {};

@@ -46,7 +46,8 @@ public:
 
 private:
     Library(std::filesystem::path folder, std::optional<FileLock> lock, SyndicatedSessionEnvironment environment);
-    tl::expected<void, CommandError> load();
+    /// Fails where the library came out empty because its file can't be read.
+    tl::expected<void, CommandError> checkStoredTree() const;
     tl::expected<std::shared_ptr<Feed>, CommandError> feedAtPlace(const std::string& name) const;
 
     const std::filesystem::path _folder;

@@ -116,9 +116,16 @@ TEST_F(LibraryCommandsTest, WritingCommandsTouchNothingWhileTheLockIsHeld) {
     EXPECT_EQ(filesOf(supportFolder()), before);
 }
 
-TEST_F(LibraryCommandsTest, FailsForALibraryThatCannotBeReadAndLeavesIt) {
+TEST_F(LibraryCommandsTest, ReadsADamagedLibraryAsAnEmptyOneAndSaysSo) {
     std::ofstream(supportFolder() / "Feeds.brindle") << "damaged";
-    expectError({"list"}, 1, "can't be read");
+    const auto list = run({"--json", "list"});
+    EXPECT_EQ(list.status, 0);
+    EXPECT_EQ(list.output, "[]\n");
+    EXPECT_TRUE(list.errors.starts_with("Could not unarchive feeds, error: ")) << list.errors;
+}
+
+TEST_F(LibraryCommandsTest, ChangesNothingInALibraryThatCannotBeRead) {
+    std::ofstream(supportFolder() / "Feeds.brindle") << "damaged";
     expectError({"add-group", "News"}, 1, "can't be read");
     EXPECT_EQ(filesOf(supportFolder())[(supportFolder() / "Feeds.brindle").string()], "damaged");
 }
