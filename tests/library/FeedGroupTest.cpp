@@ -198,7 +198,7 @@ TEST_F(FeedGroupTest, TakesNoStackForDepth) {
     manager->feeds.clear();
     EXPECT_EQ(groupsRemoved, std::size_t{depth});
     Console::redirect({});
-    std::filesystem::remove_all(folder);
+    removeFolder();
     endChild();
 }
 

@@ -51,8 +51,8 @@ TEST_F(FeedsManagerTest, AddsAtAnIndexOfTheTopLevelAndAttachesItsDelegate) {
 
 TEST_F(FeedsManagerTest, EndsTheProcessForAnIndexOutsideTheTopLevel) {
     ::testing::FLAGS_gtest_death_test_style = "threadsafe";
-    EXPECT_DEATH(manager->addFeed(FeedSeparator::make(), -1), "Fatal error: ");
-    EXPECT_DEATH(manager->addFeed(FeedSeparator::make(), 1), "Fatal error: ");
+    EXPECT_DEATH((removeFolder(), manager->addFeed(FeedSeparator::make(), -1)), "Fatal error: ");
+    EXPECT_DEATH((removeFolder(), manager->addFeed(FeedSeparator::make(), 1)), "Fatal error: ");
 }
 
 TEST_F(FeedsManagerTest, AddsToAGroupAtAnyIndex) {

@@ -48,6 +48,8 @@ protected:
     std::string file(const std::string& name) const;
     void writeFile(const std::string& name, std::string_view bytes) const;
     bool exists(const std::string& name) const { return std::filesystem::exists(folder / name); }
+    /// For what ends the process, and so never reaches this object's end.
+    void removeFolder() const { std::filesystem::remove_all(folder); }
     /// The console's lines since the last call.
     std::vector<std::string> takeLines();
 

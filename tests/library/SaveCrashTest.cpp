@@ -126,7 +126,7 @@ TEST_F(SaveCrashTest, LeavesEveryFileOldOrNewWhereverASaveIsKilled) {
     EXPECT_GT(interrupted, 0) << "no kill came inside a save";
     ASSERT_EQ(exitStatus(start([&] { return library('A')->save(), 0; })), 0);
     EXPECT_EQ(exitStatus(start([&] { return static_cast<int>(outcome()); })), static_cast<int>(wholeAndUndisturbed)) << "leftovers stay";
-    std::filesystem::remove_all(folder);
+    removeFolder();
     endChild();
 }
 
