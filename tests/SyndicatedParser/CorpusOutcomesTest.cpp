@@ -3,6 +3,7 @@
 #include "tests/SyndicatedParser/CapturedConsole.hpp"
 #include "tests/SyndicatedParser/FeedReading.hpp"
 #include "tests/support/Corpus.hpp"
+#include "tests/support/Folders.hpp"
 
 #include <fstream>
 #include <gtest/gtest.h>
@@ -80,7 +81,7 @@ std::string difference(const std::string& expected, const std::string& actual) {
 TEST(CorpusOutcomesTest, AreThoseOfTheTable) {
     BRINDLE_REQUIRE_CORPUS(path);
     std::map<std::string, Counts> folders;
-    std::ofstream failures(BRINDLE_BINARY_DIR "/corpus-failures.txt");
+    std::ofstream failures(testsupport::buildFolder() + "/corpus-failures.txt");
     const testsupport::CapturedConsole console;
     for (const std::string_view top : {"feeds", "xml"}) {
         for (const std::filesystem::path& file : testsupport::filesBelow(path / top)) {
@@ -98,8 +99,8 @@ TEST(CorpusOutcomesTest, AreThoseOfTheTable) {
     }
     const std::string actual = table(folders);
     std::cout << actual;
-    std::ofstream(BRINDLE_BINARY_DIR "/corpus-outcomes.txt") << actual;
-    const std::string expected = testsupport::bytesOf(BRINDLE_SOURCE_DIR "/tests/SyndicatedParser/corpus-outcomes.expected");
+    std::ofstream(testsupport::buildFolder() + "/corpus-outcomes.txt") << actual;
+    const std::string expected = testsupport::bytesOf(testsupport::sourceFolder() + "/tests/SyndicatedParser/corpus-outcomes.expected");
     EXPECT_EQ(difference(expected, actual), "");
 }
 

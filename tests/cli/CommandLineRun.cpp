@@ -1,4 +1,5 @@
 #include "tests/cli/CommandLineRun.hpp"
+#include "tests/support/Folders.hpp"
 
 #include <algorithm>
 #include <array>
@@ -69,7 +70,7 @@ CommandLineRun CommandLineTest::call(const std::vector<std::string>& arguments) 
     }
     for (const int descriptor : closedDescriptors)
         ::posix_spawn_file_actions_addclose(&actions, descriptor);
-    std::vector<std::string> words = {BRINDLE_BINARY_DIR "/bin/brindle-cli"};
+    std::vector<std::string> words = {testsupport::buildFolder() + "/bin/brindle-cli"};
     words.insert(words.end(), arguments.begin(), arguments.end());
     std::vector<std::string> variables = environmentWith(environment);
     pid_t process = 0;

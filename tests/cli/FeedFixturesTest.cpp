@@ -4,6 +4,7 @@
 #include "foundation/ISO8601DateFormatter.hpp"
 #include "foundation/UserLocale.hpp"
 #include "tests/support/Corpus.hpp"
+#include "tests/support/Folders.hpp"
 
 #include <filesystem>
 #include <gtest/gtest.h>
@@ -15,7 +16,7 @@ namespace {
 namespace fs = std::filesystem;
 using testsupport::bytesOf;
 
-const fs::path folder = BRINDLE_SOURCE_DIR "/tests/cli/fixtures";
+const fs::path folder = testsupport::sourceFolder() + "/tests/cli/fixtures";
 
 /// A document and what must become of it have one name: "x.xml" or "x.jsonfeed", and "x.json".
 struct Fixtures {

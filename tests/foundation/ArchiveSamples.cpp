@@ -1,6 +1,7 @@
 #include "tests/foundation/ArchiveSamples.hpp"
 
 #include "foundation/KeyedArchiver.hpp"
+#include "tests/support/Folders.hpp"
 
 #include <array>
 #include <cstdio>
@@ -65,7 +66,7 @@ std::shared_ptr<Node> unarchived(std::string_view bytes) {
 }
 
 std::string runArchiveScript(const std::string& arguments) {
-    const std::string command = "python3 '" BRINDLE_SOURCE_DIR "/tests/foundation/keyed_archive.py' " + arguments;
+    const std::string command = "python3 '" + testsupport::sourceFolder() + "/tests/foundation/keyed_archive.py' " + arguments;
     std::FILE* const pipe = popen(command.c_str(), "r");
     std::string output;
     std::array<char, 4096> buffer{};

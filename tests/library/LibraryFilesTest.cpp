@@ -5,6 +5,7 @@
 #include "Brindle/library/FeedsManager.hpp"
 #include "foundation/PropertyList.hpp"
 #include "tests/library/LibraryFixture.hpp"
+#include "tests/support/Folders.hpp"
 
 #include <algorithm>
 #include <cstdio>
@@ -24,7 +25,7 @@ class LibraryFilesTest : public LibraryTest {
 protected:
     /// What the independent reader and writer of libraries prints.
     std::string script(const std::string& arguments) {
-        const std::string command = "python3 '" BRINDLE_SOURCE_DIR "/tests/library/check-library.py' " + arguments + " 2>&1";
+        const std::string command = "python3 '" + testsupport::sourceFolder() + "/tests/library/check-library.py' " + arguments + " 2>&1";
         std::FILE* const output = ::popen(command.c_str(), "r");
         std::string text;
         for (int character = std::fgetc(output); character != EOF; character = std::fgetc(output))
