@@ -88,10 +88,8 @@ tl::expected<std::unique_ptr<Library>, CommandError> Library::open(const Setting
     if (writes)
         library->_manager->createSupportDirectories();
     library->_manager->load();
-    if (writes) {
-        if (auto readable = library->checkStoredTree(); !readable)
-            return tl::unexpected(std::move(readable.error()));
-    }
+    if (auto checked = library->checkStoredTree(writes); !checked)
+        return tl::unexpected(std::move(checked.error()));
     if (imports) {
         if (auto saved = library->save(); !saved)
             return tl::unexpected(std::move(saved.error()));
@@ -105,16 +103,18 @@ Library::Library(fs::path folder, std::optional<FileLock> lock, SyndicatedSessio
     : _folder(std::move(folder)), _lock(std::move(lock)), _answers(std::make_shared<FeedAnswers>()),
       _manager(std::make_shared<FeedsManager>(_folder, std::move(environment), _answers)) {}
 
-tl::expected<void, CommandError> Library::checkStoredTree() const {
+tl::expected<void, CommandError> Library::checkStoredTree(bool writes) const {
     const fs::path file = _folder / libraryName;
     if (!_manager->feeds.empty())
         return {};
-    // A library that can't be read loads as an empty one. To look at it does no harm, but the next save would replace it.
     const auto bytes = FileManager::contents(file);
     if (!bytes && bytes.error().code == ENOENT)
         return {};
     if (!bytes)
         return failure(bytes.error().message);
+    // A damaged library is an empty one. To look at it does no harm, but the next save would replace it.
+    if (!writes)
+        return {};
     if (const auto root = LibraryArchive::unarchive(*bytes, _manager->environment()); !root)
         return failure("the library in " + file.string() + " can't be read: " + root.error().message);
     return {};

@@ -46,8 +46,8 @@ public:
 
 private:
     Library(std::filesystem::path folder, std::optional<FileLock> lock, SyndicatedSessionEnvironment environment);
-    /// Fails where the library came out empty because its file can't be read.
-    tl::expected<void, CommandError> checkStoredTree() const;
+    /// Fails where the library came out empty because its file can't be read or, for one that writes, is damaged.
+    tl::expected<void, CommandError> checkStoredTree(bool writes) const;
     tl::expected<std::shared_ptr<Feed>, CommandError> feedAtPlace(const std::string& name) const;
 
     const std::filesystem::path _folder;
