@@ -12,7 +12,8 @@ namespace brindle {
 
 class Coder;
 
-/// An object with an archive form. `archiveClasses` names its class and the bases of it, most derived first, without the platform's root class.
+/// An object with an archive form. `archiveClasses` names its class and the bases of it, most derived first, without the platform's root
+/// class.
 class Coding {
 public:
     virtual ~Coding() = default;

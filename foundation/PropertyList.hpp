@@ -44,9 +44,13 @@ public:
     Index add(Object object);
 
     const Object& at(Index index) const { return objects[index]; }
-    template <typename T> const T* get(Index index) const { return index < objects.size() ? std::get_if<T>(&objects[index]) : nullptr; }
+    template <typename T>
+    const T* get(Index index) const {
+        return index < objects.size() ? std::get_if<T>(&objects[index]) : nullptr;
+    }
 
-    /// The value stored under a text key of a dictionary object; absent when `dictionary` is none or has no such key. The first of repeated keys counts.
+    /// The value stored under a text key of a dictionary object; absent when `dictionary` is none or has no such key. The first of repeated
+    /// keys counts.
     std::optional<Index> value(Index dictionary, std::string_view key) const;
 
     /// Reads the binary form ("bplist00") or the XML form, told apart by the first bytes. Every offset and count is checked; indices in the
@@ -57,7 +61,8 @@ public:
     std::string binary() const;
 };
 
-/// A dictionary from text to integer out of a property list's bytes; absent when the root is none or any value is no integer (booleans count as 0 and 1).
+/// A dictionary from text to integer out of a property list's bytes; absent when the root is none or any value is no integer (booleans
+/// count as 0 and 1).
 std::optional<std::map<std::string, std::int64_t>> integerDictionary(std::string_view bytes);
 
 } // namespace brindle

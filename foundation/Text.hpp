@@ -6,14 +6,15 @@
 #include <string>
 #include <string_view>
 
-/// Operations on UTF-8 text that know Unicode. None depends on the C locale; malformed input is read as U+FFFD where it must be read at all.
-/// Thread: any.
+/// Operations on UTF-8 text that know Unicode. None depends on the C locale; malformed input is read as U+FFFD where it must be read at
+/// all. Thread: any.
 namespace brindle::text {
 
 /// `text` without white space and new lines at both ends (Unicode White_Space and the C0/C1 new lines). A view into the argument.
 std::string_view trimmed(std::string_view text);
 
-/// As `trimmed`, also without characters that Unicode does not assign or forbids (noncharacters, private surrogates, U+FFFE, controls but tab and new lines).
+/// As `trimmed`, also without characters that Unicode does not assign or forbids (noncharacters, private surrogates, U+FFFE, controls but
+/// tab and new lines).
 std::string_view trimmedOfIllegalCharacters(std::string_view text);
 
 /// Full Unicode lower case, independent of the locale ("İ" aside, which Unicode lowers to two characters).
@@ -33,10 +34,12 @@ std::size_t characterCount(std::string_view text);
 /// the text's size when it is shorter. What the platform's ranges, counted in UTF-16 units, mean on UTF-8.
 std::size_t offsetOfUTF16(std::string_view text, std::size_t units);
 
-/// The signed decimal integer (optional "+" or "-", then digits) that is the whole of `text`; absent for anything else, also when it does not fit.
+/// The signed decimal integer (optional "+" or "-", then digits) that is the whole of `text`; absent for anything else, also when it does
+/// not fit.
 std::optional<std::int64_t> integer(std::string_view text);
 
-/// The integer at the start of `text`, leading white space skipped, trailing text ignored; 0 when there is none, the nearest limit when it does not fit.
+/// The integer at the start of `text`, leading white space skipped, trailing text ignored; 0 when there is none, the nearest limit when it
+/// does not fit.
 std::int64_t lenientInteger(std::string_view text);
 
 } // namespace brindle::text

@@ -48,12 +48,12 @@ struct XMLParserError {
 /// A strict reader of XML 1.0 that reports events; namespaces are not processed. It reads nothing but the bytes it is given: no external
 /// entity, no DTD, no network, and its memory is bounded against entity expansion and depth.
 ///
-/// Two things beside the standard: references to names that the document does not declare are resolved by `namedReferences`, and characters that
-/// XML 1.0 forbids are left out. White space before the XML declaration is passed over. All else is strict: unbalanced tags, a second
+/// Two things beside the standard: references to names that the document does not declare are resolved by `namedReferences`, and characters
+/// that XML 1.0 forbids are left out. White space before the XML declaration is passed over. All else is strict: unbalanced tags, a second
 /// root, text after the root and "--" in a comment end the parse.
 ///
-/// Encoding: bytes that were decoded as UTF-8 are read as UTF-8, whatever the document declares. Otherwise the declared encoding is taken where the
-/// bytes are valid in it, else the encoding that decoded them. Thread: any, one thread at a time.
+/// Encoding: bytes that were decoded as UTF-8 are read as UTF-8, whatever the document declares. Otherwise the declared encoding is taken
+/// where the bytes are valid in it, else the encoding that decoded them. Thread: any, one thread at a time.
 class XMLParser {
 public:
     /// Resolves "nbsp" and the like, name without "&" and ";"; absent for an unknown name, which is an error of the document.
