@@ -5,7 +5,6 @@
 #include "cli/Input.hpp"
 #include "cli/TextTable.hpp"
 
-#include <array>
 #include <optional>
 #include <string>
 #include <utility>
