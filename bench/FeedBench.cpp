@@ -16,17 +16,18 @@ std::atomic<std::size_t> allocations = 0;
 
 } // namespace
 
-// Every allocation of the program is counted, so that a benchmark can say how many its work needs.
-void* operator new(std::size_t size) {
+// Every allocation of the program is counted, so that a benchmark can say how many its work needs. Never inlined: g++ would see a free()
+// without its malloc().
+[[gnu::noinline]] void* operator new(std::size_t size) {
     allocations.fetch_add(1, std::memory_order_relaxed);
     if (void* const memory = std::malloc(size ? size : 1))
         return memory;
     throw std::bad_alloc();
 }
-void operator delete(void* memory) noexcept {
+[[gnu::noinline]] void operator delete(void* memory) noexcept {
     std::free(memory);
 }
-void operator delete(void* memory, std::size_t) noexcept {
+[[gnu::noinline]] void operator delete(void* memory, std::size_t) noexcept {
     std::free(memory);
 }
 
