@@ -25,13 +25,19 @@ void SyndicatedSessionPass::run() {
     if (kind == SyndicatedFeedKind::unknown)
         return fail(SyndicatedSessionError::Case::invalidFeed);
     prepareFeed(kind);
-    if (kind != SyndicatedFeedKind::html) {
-        onMain([kind](SyndicatedSession& session, SyndicatedSessionDelegate* delegate) {
-            if (delegate)
-                delegate->syndicatedSessionDidDetectKind(session, kind);
-        });
-    }
+    if (kind != SyndicatedFeedKind::html)
+        tellKind(kind);
     parse(kind, std::move(document));
+}
+
+void SyndicatedSessionPass::tellKind(SyndicatedFeedKind kind) {
+    // The feed is still to be filled, so it stays here: the main thread gets it when nothing writes to it any more.
+    DispatchQueue::main().async([weak = _session, kind] {
+        const auto session = weak.lock();
+        const auto delegate = session ? session->delegate.lock() : nullptr;
+        if (delegate)
+            delegate->syndicatedSessionDidDetectKind(*session, kind);
+    });
 }
 
 void SyndicatedSessionPass::prepareFeed(SyndicatedFeedKind kind) {

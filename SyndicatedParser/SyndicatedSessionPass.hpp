@@ -26,10 +26,11 @@ private:
     void discoverIcon();
     std::optional<URL> siteRoot() const;
 
+    void tellKind(SyndicatedFeedKind kind);
     void prepareFeed(SyndicatedFeedKind kind);
     void fail(SyndicatedSessionError::Case kind);
-    /// Runs `step` on the main thread with the session and its delegate, this pass's feed being the session's by then; nothing when the
-    /// session is gone.
+    /// Runs `step` on the main thread with the session and its delegate, this pass's feed being the session's by then, so nothing may write
+    /// to it any more; nothing when the session is gone.
     void onMain(std::function<void(SyndicatedSession& session, SyndicatedSessionDelegate* delegate)> step);
     template <typename Question>
     bool ask(bool answerOfNone, Question question);
