@@ -1,5 +1,7 @@
 #include "foundation/AtomicFileBatch.hpp"
 
+#include "foundation/WriteAll.hpp"
+
 #include <cerrno>
 #include <dirent.h>
 #include <fcntl.h>
@@ -27,18 +29,6 @@ bool isTemporaryName(std::string_view name) {
     return name.starts_with('.') && name.ends_with(temporaryEnding);
 }
 
-bool writeAll(int descriptor, std::string_view bytes) {
-    while (!bytes.empty()) {
-        const ssize_t written = ::write(descriptor, bytes.data(), bytes.size());
-        if (written < 0 && errno == EINTR)
-            continue;
-        if (written <= 0)
-            return false;
-        bytes.remove_prefix(static_cast<std::size_t>(written));
-    }
-    return true;
-}
-
 } // namespace
 
 /// The files of one folder, reached through one descriptor, so that a folder that is moved meanwhile keeps its files together.
@@ -63,13 +53,12 @@ public:
         if (file < 0)
             return tl::unexpected(FileError::last("write", _path / name));
         _names.insert(name);
-        const bool isWritten = writeAll(file, bytes);
-        const int writeError = errno;
+        const int writeError = writeAll(file, bytes);
         // Some file systems tell of a full disk only here.
         const bool isClosed = ::close(file) == 0;
-        if (isWritten && isClosed)
+        if (writeError == 0 && isClosed)
             return {};
-        return tl::unexpected(abandon(name, isWritten ? errno : writeError));
+        return tl::unexpected(abandon(name, writeError == 0 ? errno : writeError));
     }
 
     bool syncFileSystem() const { return ::syncfs(_descriptor) == 0; }

@@ -1,5 +1,7 @@
 #include "foundation/FileManager.hpp"
 
+#include "foundation/WriteAll.hpp"
+
 #include <algorithm>
 #include <array>
 #include <cerrno>
@@ -32,18 +34,6 @@ public:
 private:
     int _value;
 };
-
-bool writeAll(int descriptor, std::string_view bytes) {
-    while (!bytes.empty()) {
-        const ssize_t written = ::write(descriptor, bytes.data(), bytes.size());
-        if (written < 0 && errno == EINTR)
-            continue;
-        if (written <= 0)
-            return false;
-        bytes.remove_prefix(static_cast<std::size_t>(written));
-    }
-    return true;
-}
 
 /// Makes a rename in `folder` last. A file system that can't is no failure: the file is whole either way.
 void syncFolder(const fs::path& folder) {
@@ -90,7 +80,7 @@ tl::expected<void, FileError> FileManager::writeAtomically(const fs::path& path,
         ::unlink(temporary.c_str());
         return tl::unexpected(error);
     };
-    if (::fchmod(file.value(), 0644) != 0 || !writeAll(file.value(), bytes) || ::fsync(file.value()) != 0)
+    if (::fchmod(file.value(), 0644) != 0 || writeAll(file.value(), bytes) != 0 || ::fsync(file.value()) != 0)
         return failed();
     if (::rename(temporary.c_str(), path.c_str()) != 0)
         return failed();

@@ -1,4 +1,4 @@
-#include "cli/WriteAll.hpp"
+#include "foundation/WriteAll.hpp"
 
 #include <cerrno>
 #include <cstddef>
