@@ -1,62 +1,55 @@
 #include "foundation/URLTransferLine.hpp"
 
-#include <algorithm>
-
 namespace brindle {
 
+void URLTransferLine::add(std::unique_ptr<URLTransfer> transfer) {
+    const std::string name = transfer->request().host;
+    const Turn turn(transfer->hasBegun(), ++_lastNumber);
+    _fresh += transfer->hasBegun() ? 0 : 1;
+    _places[transfer->request().identifier] = {name, turn};
+    Host& host = _hosts[name];
+    host.waiting.emplace(turn, std::move(transfer));
+    setTurn(name, host);
+}
+
 URLTransfer* URLTransferLine::next() {
-    if (isFull())
+    if (isFull() || _turns.empty())
         return nullptr;
-    const auto found = nextWaiting();
-    if (found == _waiting.end())
-        return nullptr;
-    std::unique_ptr<URLTransfer> transfer = std::move(*found);
-    _waiting.erase(found);
-    ++_workingPerHost[transfer->request().host];
+    const auto [turn, name] = *_turns.begin();
+    ++_hosts[name].working;
+    std::unique_ptr<URLTransfer> transfer = takeFromLine(name, turn);
     URLTransfer* const lent = transfer.get();
     _working.emplace(lent->request().identifier, std::move(transfer));
     return lent;
 }
 
-URLTransferLine::Transfers::iterator URLTransferLine::nextWaiting() {
-    const auto found = std::find_if(_waiting.begin(), _waiting.end(),
-        [this](const auto& transfer) { return !transfer->hasBegun() && !isFull(transfer->request().host); });
-    if (found != _waiting.end())
-        return found;
-    return std::find_if(_waiting.begin(), _waiting.end(), [this](const auto& transfer) { return !isFull(transfer->request().host); });
-}
-
 URLTransfer* URLTransferLine::toSuspend(Time now) const {
+    if (!isCrowded())
+        return nullptr;
     // Where there is room in all, only a host's own transfers stand in the way of those that wait for it.
-    const auto standsInTheWay = [this](const URLTransfer& transfer) {
-        return std::any_of(_waiting.begin(), _waiting.end(), [&](const auto& waiting) {
-            const std::string& host = waiting->request().host;
-            return !waiting->hasBegun() && (host == transfer.request().host || (isFull() && !isFull(host)));
-        });
-    };
+    const bool allStandInTheWay = isFull() && !_turns.empty() && !_turns.begin()->first.first;
     URLTransfer* mostSilent = nullptr;
     for (const auto& [identifier, transfer] : _working) {
-        if (transfer->silence(now) >= patience && (!mostSilent || transfer->silence(now) > mostSilent->silence(now)) &&
-            standsInTheWay(*transfer))
+        const bool standsInTheWay = allStandInTheWay || _hosts.at(transfer->request().host).hasFresh();
+        const auto silence = transfer->silence(now);
+        if (standsInTheWay && silence >= patience && (!mostSilent || silence > mostSilent->silence(now)))
             mostSilent = transfer.get();
     }
     return mostSilent;
 }
 
 void URLTransferLine::sendBack(const URLTransfer& transfer) {
-    _waiting.push_back(takeFromWork(transfer.request().identifier));
+    add(takeFromWork(transfer.request().identifier));
 }
 
 std::unique_ptr<URLTransfer> URLTransferLine::take(std::uint64_t identifier) {
     if (auto transfer = takeFromWork(identifier))
         return transfer;
-    const auto found =
-        std::find_if(_waiting.begin(), _waiting.end(), [&](const auto& transfer) { return transfer->request().identifier == identifier; });
-    if (found == _waiting.end())
+    const auto place = _places.find(identifier);
+    if (place == _places.end())
         return nullptr;
-    std::unique_ptr<URLTransfer> transfer = std::move(*found);
-    _waiting.erase(found);
-    return transfer;
+    const auto [name, turn] = place->second;
+    return takeFromLine(name, turn);
 }
 
 std::unique_ptr<URLTransfer> URLTransferLine::takeFromWork(std::uint64_t identifier) {
@@ -65,23 +58,36 @@ std::unique_ptr<URLTransfer> URLTransferLine::takeFromWork(std::uint64_t identif
         return nullptr;
     std::unique_ptr<URLTransfer> transfer = std::move(found->second);
     _working.erase(found);
-    leaveHost(transfer->request().host);
+    const std::string& name = transfer->request().host;
+    Host& host = _hosts[name];
+    --host.working;
+    setTurn(name, host);
     return transfer;
 }
 
-bool URLTransferLine::isCrowded() const {
-    return std::any_of(_waiting.begin(), _waiting.end(), [](const auto& transfer) { return !transfer->hasBegun(); });
+std::unique_ptr<URLTransfer> URLTransferLine::takeFromLine(const std::string& name, Turn turn) {
+    Host& host = _hosts[name];
+    const auto found = host.waiting.find(turn);
+    std::unique_ptr<URLTransfer> transfer = std::move(found->second);
+    host.waiting.erase(found);
+    _places.erase(transfer->request().identifier);
+    _fresh -= transfer->hasBegun() ? 0 : 1;
+    setTurn(name, host);
+    return transfer;
 }
 
-bool URLTransferLine::isFull(const std::string& host) const {
-    const auto found = _workingPerHost.find(host);
-    return found != _workingPerHost.end() && found->second >= _limitPerHost;
-}
-
-void URLTransferLine::leaveHost(const std::string& host) {
-    const auto found = _workingPerHost.find(host);
-    if (--found->second == 0)
-        _workingPerHost.erase(found);
+void URLTransferLine::setTurn(const std::string& name, Host& host) {
+    if (host.turn)
+        _turns.erase(*host.turn);
+    host.turn.reset();
+    if (host.waiting.empty() && host.working == 0) {
+        _hosts.erase(name);
+        return;
+    }
+    if (host.waiting.empty() || host.working >= _limitPerHost)
+        return;
+    host.turn = host.waiting.begin()->first;
+    _turns.emplace(*host.turn, name);
 }
 
 } // namespace brindle

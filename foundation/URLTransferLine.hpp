@@ -5,17 +5,18 @@
 #include <chrono>
 #include <cstddef>
 #include <cstdint>
-#include <list>
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
 #include <unordered_map>
+#include <utility>
 
 namespace brindle {
 
 /// Decides which transfers are at work: so many in all, so many for each host, first come first served. A transfer that stays silent gives
 /// its place to one that has not begun yet and goes to the end of the line, so that servers which never answer hold up nobody but
-/// themselves. Thread: the network's.
+/// themselves. No step takes longer for a longer line. Thread: the network's.
 class URLTransferLine {
 public:
     using Time = URLTransfer::Time;
@@ -25,7 +26,7 @@ public:
 
     URLTransferLine(std::size_t limit, std::size_t limitPerHost) : _limit(limit), _limitPerHost(limitPerHost) {}
 
-    void add(std::unique_ptr<URLTransfer> transfer) { _waiting.push_back(std::move(transfer)); }
+    void add(std::unique_ptr<URLTransfer> transfer);
 
     /// Puts the next transfer that has a place to work and lends it; null when there is none. Those that never began go first.
     URLTransfer* next();
@@ -39,24 +40,34 @@ public:
     std::unique_ptr<URLTransfer> take(std::uint64_t identifier);
 
     /// Whether a transfer that never began waits for a place.
-    bool isCrowded() const;
-
-    bool isEmpty() const { return _waiting.empty() && _working.empty(); }
+    bool isCrowded() const { return _fresh > 0; }
 
 private:
-    using Transfers = std::list<std::unique_ptr<URLTransfer>>;
+    /// Whether the transfer has begun before, and its number in the line.
+    using Turn = std::pair<bool, std::uint64_t>;
+
+    /// The transfers of one host. Only the first one that waits, and only while the host has room, stands in `_turns`.
+    struct Host {
+        std::map<Turn, std::unique_ptr<URLTransfer>> waiting;
+        std::size_t working = 0;
+        std::optional<Turn> turn;
+
+        bool hasFresh() const { return !waiting.empty() && !waiting.begin()->first.first; }
+    };
 
     bool isFull() const { return _working.size() >= _limit; }
-    bool isFull(const std::string& host) const;
-    void leaveHost(const std::string& host);
+    void setTurn(const std::string& name, Host& host);
     std::unique_ptr<URLTransfer> takeFromWork(std::uint64_t identifier);
-    Transfers::iterator nextWaiting();
+    std::unique_ptr<URLTransfer> takeFromLine(const std::string& name, Turn turn);
 
     const std::size_t _limit;
     const std::size_t _limitPerHost;
-    Transfers _waiting;
+    std::uint64_t _lastNumber = 0;
+    std::size_t _fresh = 0; ///< how many wait that never began
+    std::unordered_map<std::string, Host> _hosts;
+    std::map<Turn, std::string> _turns;                                      ///< hosts by their turns
+    std::unordered_map<std::uint64_t, std::pair<std::string, Turn>> _places; ///< of those that wait
     std::unordered_map<std::uint64_t, std::unique_ptr<URLTransfer>> _working;
-    std::map<std::string, std::size_t> _workingPerHost; ///< no zeros
 };
 
 } // namespace brindle
