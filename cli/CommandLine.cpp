@@ -6,7 +6,6 @@
 #include "cli/Settings.hpp"
 #include "cli/StandardError.hpp"
 #include "foundation/Console.hpp"
-#include "foundation/RunLoop.hpp"
 
 #include <algorithm>
 #include <array>
@@ -105,7 +104,6 @@ int runCommandLine(int argc, char** argv) {
     occupyStandardStreams();
     // A reader that went away is a write that fails, and is told as such.
     std::signal(SIGPIPE, SIG_IGN);
-    RunLoop::main();
     // Lives as long as the console, which other threads use until the process is gone.
     const auto standardError = std::make_shared<StandardError>();
     Console::redirect([standardError](std::string_view line) { standardError->line(line); });

@@ -40,6 +40,13 @@ RunLoop& RunLoop::main() {
     return loop;
 }
 
+namespace {
+
+/// Static objects are made on the main thread, before anything can ask for the loop on another.
+[[maybe_unused]] const RunLoop& madeOnMainThread = RunLoop::main();
+
+} // namespace
+
 RunLoop::RunLoop() : _state(std::make_unique<State>()) {}
 RunLoop::~RunLoop() = default;
 

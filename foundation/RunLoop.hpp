@@ -24,7 +24,7 @@ public:
     using Block = std::function<void()>;
     using Time = TimeSource::Time;
 
-    /// The process's one loop; it belongs to the thread that calls this first, which must be the main thread.
+    /// The process's one loop; it belongs to the thread that `main` runs on. Thread: any.
     static RunLoop& main();
 
     ~RunLoop();

@@ -59,8 +59,6 @@ std::string HTTPServer::Request::header(const std::string& lowerCaseName) const 
 }
 
 HTTPServer::HTTPServer() {
-    // Connections wake the main loop from threads of their own, and whoever asks for it first owns it.
-    RunLoop::main();
     // A proxy of the machine must not come between.
     ::setenv("no_proxy", "*", 1);
     _listener = ::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
