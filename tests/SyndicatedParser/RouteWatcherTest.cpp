@@ -1,13 +1,12 @@
 #include "SyndicatedParser/RouteWatcher.hpp"
 
 #include "SyndicatedParser/RoutingTable.hpp"
+#include "tests/support/Network.hpp"
 
 #include <condition_variable>
-#include <cstdlib>
 #include <functional>
 #include <gtest/gtest.h>
 #include <mutex>
-#include <sched.h>
 #include <string>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -15,16 +14,13 @@
 namespace brindle {
 namespace {
 
+using testsupport::addDefaultRoute;
+using testsupport::ip;
+
 constexpr int cannotTell = 77;
 
-bool ip(const std::string& arguments) {
-    return std::system(("ip " + arguments + " >/dev/null 2>&1").c_str()) == 0;
-}
-
-/// Gives the calling process a network of its own, in which nothing is up; ends it where that can't be had.
-void leaveNetwork() {
-    const bool isApart = ::unshare(CLONE_NEWNET) == 0 || ::unshare(CLONE_NEWUSER | CLONE_NEWNET) == 0;
-    if (!isApart || !ip("link add in0 type veth peer name out0"))
+void leaveNetworkOrEnd() {
+    if (!testsupport::leaveNetwork())
         ::_exit(cannotTell);
 }
 
@@ -38,15 +34,11 @@ void leaveNetwork() {
             ended = WIFEXITED(status) ? WEXITSTATUS(status) : -1;                                                                          \
             return true;                                                                                                                   \
         };                                                                                                                                 \
-        EXPECT_EXIT((leaveNetwork(), ::_exit((body)())), note, "");                                                                        \
+        EXPECT_EXIT((leaveNetworkOrEnd(), ::_exit((body)())), note, "");                                                                   \
         if (ended == cannotTell)                                                                                                           \
             GTEST_SKIP() << "no network namespaces here";                                                                                  \
         EXPECT_EQ(ended, 0) << "the step that failed";                                                                                     \
     } while (false)
-
-bool addDefaultRoute() {
-    return ip("address add 10.9.0.2/24 dev in0") && ip("link set out0 up") && ip("link set in0 up") && ip("route add default via 10.9.0.1");
-}
 
 /// What a watch was told, with a way to wait for it.
 class Told {
