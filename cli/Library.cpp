@@ -8,9 +8,6 @@
 
 #include <cerrno>
 #include <chrono>
-#include <cstdint>
-#include <sys/stat.h>
-#include <tuple>
 #include <utility>
 
 namespace brindle {
@@ -41,14 +38,6 @@ tl::expected<FileLock, CommandError> lockFolder(const fs::path& folder) {
     if (!*lock)
         return failure("the library in " + folder.string() + " is in use by another program");
     return **std::move(lock);
-}
-
-/// What tells a file from the one that replaces it.
-std::optional<std::tuple<dev_t, ino_t, std::int64_t, std::int64_t>> identity(const fs::path& file) {
-    struct stat status {};
-    if (::stat(file.c_str(), &status) != 0)
-        return std::nullopt;
-    return std::tuple(status.st_dev, status.st_ino, std::int64_t{status.st_mtim.tv_sec}, std::int64_t{status.st_mtim.tv_nsec});
 }
 
 /// "@2.0" as the places 2 and 0; absent for any other form.
@@ -172,11 +161,8 @@ void Library::bringBack(const FeedsManager::Feeds& list) {
 }
 
 tl::expected<void, CommandError> Library::save() {
-    const fs::path file = _folder / libraryName;
-    const auto before = identity(file);
-    _manager->save();
-    // A save always replaces the file, and says on the console why it could not.
-    if (!_manager->feeds.empty() && identity(file) == before)
+    // The console says why.
+    if (!_manager->save())
         return failure("the library in " + _folder.string() + " could not be saved");
     return {};
 }

@@ -81,16 +81,26 @@ void FeedsManager::append(const Feeds& list) {
     }
 }
 
-void FeedsManager::save() {
+bool FeedsManager::save() {
     assertMainThread();
     // Kept as is: an empty library is not stored, so the feeds of the last save come back at the next launch.
     if (feeds.empty())
-        return;
-    if (const auto bytes = LibraryArchive::archivedData(feeds); !bytes)
-        Console::print("Could not convert feed group to data, error: " + bytes.error().message);
-    else if (const auto written = FileManager::writeAtomically(_supportDirectory / libraryName, *bytes); !written)
-        Console::print("Could not write Feeds Library, error: " + written.error().message);
+        return true;
+    const bool isStored = saveLibrary();
     FeedFiles(_supportDirectory).save(items(feeds));
+    return isStored;
+}
+
+bool FeedsManager::saveLibrary() const {
+    const auto bytes = LibraryArchive::archivedData(feeds);
+    if (!bytes) {
+        Console::print("Could not convert feed group to data, error: " + bytes.error().message);
+        return false;
+    }
+    const auto written = FileManager::writeAtomically(_supportDirectory / libraryName, *bytes);
+    if (!written)
+        Console::print("Could not write Feeds Library, error: " + written.error().message);
+    return written.has_value();
 }
 
 void FeedsManager::addFeed(const std::shared_ptr<Feed>& feed, std::ptrdiff_t index, const std::shared_ptr<FeedGroup>& group) {

@@ -35,8 +35,9 @@ public:
     void createSupportDirectories() const;
     /// Appends what is stored to `feeds` and reads each feed's files.
     void load();
-    /// Writes the tree and each feed's files; nothing at all while `feeds` is empty.
-    void save();
+    /// Writes the tree and each feed's files; nothing at all while `feeds` is empty. False when the tree could not be stored, which prints
+    /// a line.
+    bool save();
 
     /// Fatal for an index outside 0 to the count at the top level; a group forgives it.
     void addFeed(const std::shared_ptr<Feed>& feed, std::ptrdiff_t index, const std::shared_ptr<FeedGroup>& group = nullptr);
@@ -67,6 +68,7 @@ public:
 private:
     void loadLegacyLibrary(const std::filesystem::path& file);
     void loadLibrary();
+    bool saveLibrary() const;
     void append(const Feeds& list);
 
     std::filesystem::path _supportDirectory;
