@@ -41,4 +41,8 @@ SyndicatedFeedKind feedKindOfRootElement(std::string_view name) {
     return SyndicatedFeedKind::unknown;
 }
 
+bool isSettled(SyndicatedFeedKind kind) {
+    return kind != SyndicatedFeedKind::unknown && kind != SyndicatedFeedKind::html;
+}
+
 } // namespace brindle

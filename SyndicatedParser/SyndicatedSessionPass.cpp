@@ -41,8 +41,8 @@ void SyndicatedSessionPass::tellKind(SyndicatedFeedKind kind) {
 }
 
 void SyndicatedSessionPass::prepareFeed(SyndicatedFeedKind kind) {
-    const bool isSettled = _base->kind != SyndicatedFeedKind::unknown && _base->kind != SyndicatedFeedKind::html;
-    _feed = isSettled ? std::make_shared<SyndicatedFeed>(*_base) : std::make_shared<SyndicatedFeed>(kind, _environment.clock->now());
+    _feed = isSettled(_base->kind) ? std::make_shared<SyndicatedFeed>(*_base)
+                                   : std::make_shared<SyndicatedFeed>(kind, _environment.clock->now());
 }
 
 void SyndicatedSessionPass::parse(SyndicatedFeedKind kind, DecodedDocument document) {

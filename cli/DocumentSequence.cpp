@@ -46,8 +46,7 @@ DocumentSequence::Result DocumentSequence::read(std::string_view bytes) {
     result.detected = kind;
     if (kind == SyndicatedFeedKind::unknown)
         return result;
-    // A feed whose kind is settled stays, whatever comes.
-    if (_feed->kind == SyndicatedFeedKind::unknown || _feed->kind == SyndicatedFeedKind::html)
+    if (!isSettled(_feed->kind))
         _feed = std::make_shared<SyndicatedFeed>(kind, _clock->now());
     if (kind == SyndicatedFeedKind::html)
         result.outcome = Outcome::html;

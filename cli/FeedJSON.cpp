@@ -1,5 +1,6 @@
 #include "cli/FeedJSON.hpp"
 
+#include "cli/JSONText.hpp"
 #include "foundation/Text.hpp"
 
 #include <algorithm>
@@ -59,7 +60,7 @@ OrderedJSON sortedList(const std::vector<T>& values, OrderedJSON (*json)(const T
     std::vector<std::pair<std::string, OrderedJSON>> printed;
     for (const T& value : values) {
         OrderedJSON element = json(value);
-        std::string text = element.dump();
+        std::string text = jsonLine(element);
         printed.emplace_back(std::move(text), std::move(element));
     }
     std::stable_sort(printed.begin(), printed.end(), [](const auto& a, const auto& b) { return a.first < b.first; });

@@ -1,8 +1,8 @@
 #include "cli/Output.hpp"
 
 #include "cli/JSONText.hpp"
-#include "cli/WriteAll.hpp"
 #include "foundation/FileError.hpp"
+#include "foundation/WriteAll.hpp"
 
 #include <unistd.h>
 

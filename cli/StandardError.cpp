@@ -1,7 +1,7 @@
 #include "cli/StandardError.hpp"
 
 #include "cli/SingleLine.hpp"
-#include "cli/WriteAll.hpp"
+#include "foundation/WriteAll.hpp"
 
 #include <string>
 #include <unistd.h>

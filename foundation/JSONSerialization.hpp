@@ -7,7 +7,7 @@
 
 namespace brindle {
 
-/// JSON documents (RFC 8259) into values and back. Reading takes an object or an array at the top level and nothing else; a byte order mark
+/// JSON documents (RFC 8259) into values. Reading takes an object or an array at the top level and nothing else; a byte order mark
 /// is accepted, the last of repeated keys wins, nesting deeper than `maximumDepth` is refused. Thread: any.
 class JSONSerialization {
 public:
