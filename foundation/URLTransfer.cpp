@@ -39,7 +39,7 @@ bool URLTransfer::begin(CURLSH* share, Time now) {
     const long silentSeconds = std::max<long>(1, static_cast<long>(std::chrono::ceil<std::chrono::seconds>(left).count()));
 
     curl_easy_setopt(_handle, CURLOPT_PRIVATE, this);
-    curl_easy_setopt(_handle, CURLOPT_URL, _request.url.c_str());
+    setURL();
     curl_easy_setopt(_handle, CURLOPT_SHARE, share);
     curl_easy_setopt(_handle, CURLOPT_NOSIGNAL, 1L);
     curl_easy_setopt(_handle, CURLOPT_PROTOCOLS_STR, "http,https");
@@ -69,6 +69,19 @@ bool URLTransfer::begin(CURLSH* share, Time now) {
         curl_easy_setopt(_handle, CURLOPT_PASSWORD, _request.credential->password.c_str());
     }
     return true;
+}
+
+/// Without the user and password that it may hold: libcurl would send them to whoever answers, asked or not.
+void URLTransfer::setURL() {
+    const std::unique_ptr<CURLU, decltype(&curl_url_cleanup)> parts(curl_url(), &curl_url_cleanup);
+    char* bare = nullptr;
+    const bool isBare = parts && curl_url_set(parts.get(), CURLUPART_URL, _request.url.c_str(), CURLU_NON_SUPPORT_SCHEME) == CURLUE_OK &&
+                        curl_url_set(parts.get(), CURLUPART_USER, nullptr, 0) == CURLUE_OK &&
+                        curl_url_set(parts.get(), CURLUPART_PASSWORD, nullptr, 0) == CURLUE_OK &&
+                        curl_url_get(parts.get(), CURLUPART_URL, &bare, 0) == CURLUE_OK;
+    // What can't be taken apart fails as the address that it is.
+    curl_easy_setopt(_handle, CURLOPT_URL, isBare ? bare : "");
+    curl_free(bare);
 }
 
 void URLTransfer::suspend(Time now) {
@@ -120,8 +133,18 @@ std::optional<URLAuthenticationChallenge> URLTransfer::challenge() const {
 std::size_t URLTransfer::receiveBody(char* data, std::size_t size, std::size_t count, void* transfer) {
     auto& self = *static_cast<URLTransfer*>(transfer);
     self._lastActivity = std::chrono::steady_clock::now();
+    if (self._body.empty())
+        self.makeRoom();
     self._body.append(data, size * count);
     return size * count;
+}
+
+void URLTransfer::makeRoom() {
+    // What a server says of its body's size is a hint; a false one must cost nothing.
+    constexpr curl_off_t largestTrusted = 1 << 24;
+    curl_off_t size = 0;
+    if (curl_easy_getinfo(_handle, CURLINFO_CONTENT_LENGTH_DOWNLOAD_T, &size) == CURLE_OK && size > 0)
+        _body.reserve(static_cast<std::size_t>(std::min(size, largestTrusted)));
 }
 
 std::size_t URLTransfer::receiveHeader(char* data, std::size_t size, std::size_t count, void* transfer) {

@@ -54,6 +54,8 @@ public:
 
 private:
     static std::size_t receiveBody(char* data, std::size_t size, std::size_t count, void* transfer);
+    void setURL();
+    void makeRoom();
     static std::size_t receiveHeader(char* data, std::size_t size, std::size_t count, void* transfer);
 
     Request _request;
