@@ -9,9 +9,9 @@
 
 namespace brindle {
 
-DecodedDocument decodeDocument(std::string_view bytes) {
-    if (std::optional<std::string> text = decode(bytes, StringEncoding::utf8))
-        return {std::move(*text), StringEncoding::utf8};
+DecodedDocument decodeDocument(std::string bytes) {
+    if (isValidUTF8(bytes))
+        return {std::move(bytes), StringEncoding::utf8};
     if (std::optional<std::string> text = decode(bytes, StringEncoding::isoLatin1))
         return {std::move(*text), StringEncoding::isoLatin1};
     return {};

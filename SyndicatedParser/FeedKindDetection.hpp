@@ -4,7 +4,6 @@
 #include "foundation/StringEncoding.hpp"
 
 #include <string>
-#include <string_view>
 
 namespace brindle {
 
@@ -15,7 +14,7 @@ struct DecodedDocument {
 };
 
 /// Decodes a body: as UTF-8, else as ISO Latin 1. No header, mark or declaration takes part. Thread: any.
-DecodedDocument decodeDocument(std::string_view bytes);
+DecodedDocument decodeDocument(std::string bytes);
 
 /// Tells what `text` is, by being JSON or by its root element, and replaces markup by the toolkit's balanced rewriting of it. Prints
 /// "Could not parse feed: " and the error where the toolkit fails. Thread: any.

@@ -8,7 +8,7 @@
 
 namespace brindle {
 
-std::unique_ptr<SyndicatedFeedParser> makeFeedParser(SyndicatedFeedKind detected, std::shared_ptr<SyndicatedFeed> feed, std::string text,
+std::unique_ptr<SyndicatedFeedParser> makeFeedParser(SyndicatedFeedKind detected, std::shared_ptr<SyndicatedFeed> feed, SharedBytes text,
     StringEncoding encoding, std::shared_ptr<const Clock> clock) {
     switch (detected) {
     case SyndicatedFeedKind::rss:

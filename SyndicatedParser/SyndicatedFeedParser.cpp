@@ -5,7 +5,7 @@
 namespace brindle {
 
 SyndicatedFeedParser::SyndicatedFeedParser(
-    std::shared_ptr<SyndicatedFeed> feed, std::string parseString, StringEncoding usedStringEncoding, std::shared_ptr<const Clock> clock)
+    std::shared_ptr<SyndicatedFeed> feed, SharedBytes parseString, StringEncoding usedStringEncoding, std::shared_ptr<const Clock> clock)
     : _feed(std::move(feed)), _parseString(std::move(parseString)), _usedStringEncoding(usedStringEncoding), _clock(std::move(clock)) {}
 
 SyndicatedFeedParser::~SyndicatedFeedParser() = default;

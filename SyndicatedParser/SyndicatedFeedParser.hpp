@@ -3,6 +3,7 @@
 #include "SyndicatedParser/SyndicatedFeed.hpp"
 #include "SyndicatedParser/SyndicatedFeedParserError.hpp"
 #include "foundation/Date.hpp"
+#include "foundation/SharedBytes.hpp"
 #include "foundation/StringEncoding.hpp"
 #include "foundation/XMLParser.hpp"
 
@@ -20,7 +21,7 @@ public:
     using CompletionHandler = std::function<void(const SyndicatedFeedParserResult& result)>;
 
     /// `parseString` is the document's text, `usedStringEncoding` the encoding that decoded its bytes.
-    SyndicatedFeedParser(std::shared_ptr<SyndicatedFeed> feed, std::string parseString, StringEncoding usedStringEncoding,
+    SyndicatedFeedParser(std::shared_ptr<SyndicatedFeed> feed, SharedBytes parseString, StringEncoding usedStringEncoding,
         std::shared_ptr<const Clock> clock);
     virtual ~SyndicatedFeedParser();
     SyndicatedFeedParser(const SyndicatedFeedParser&) = delete;
@@ -41,7 +42,7 @@ protected:
     void restoreEntryStates();
 
     const std::shared_ptr<SyndicatedFeed> _feed;
-    const std::string _parseString;
+    const SharedBytes _parseString;
     const StringEncoding _usedStringEncoding;
     const std::shared_ptr<const Clock> _clock;
     CompletionHandler _completionHandler;

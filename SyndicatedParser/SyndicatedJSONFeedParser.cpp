@@ -48,7 +48,7 @@ std::optional<SyndicatedEnclosure> enclosureOfAttachment(const JSON& attachment)
 
 void SyndicatedJSONFeedParser::parse(CompletionHandler handler) {
     SyndicatedFeedParser::parse(handler);
-    const std::optional<JSON::Dictionary> json = JSON(_parseString).dictionary();
+    const std::optional<JSON::Dictionary> json = JSON(_parseString.view()).dictionary();
     // Kept as is: a failure of the common steps has been reported by them, and may be reported here again.
     if (!json) {
         handler(tl::unexpected(SyndicatedFeedParserError{SyndicatedFeedParserError::Case::invalidFeed, std::nullopt}));

@@ -16,8 +16,11 @@ class SyndicatedSession::TaskEvents : public URLSessionDelegate {
 public:
     explicit TaskEvents(std::weak_ptr<SyndicatedSession> session) : _session(std::move(session)) {}
 
-    void didReceiveData(URLSessionDataTask&, std::string_view data) override {
-        if (const auto session = _session.lock())
+    void didReceiveData(URLSessionDataTask&, std::string data) override {
+        const auto session = _session.lock();
+        if (session && session->_collectedData.empty())
+            session->_collectedData = std::move(data);
+        else if (session)
             session->_collectedData += data;
     }
 

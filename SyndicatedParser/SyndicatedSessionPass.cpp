@@ -17,8 +17,7 @@ SyndicatedSessionPass::SyndicatedSessionPass(SyndicatedSession& session, std::st
       _bytes(std::move(bytes)), _base(session._feed) {}
 
 void SyndicatedSessionPass::run() {
-    DecodedDocument document = decodeDocument(_bytes);
-    _bytes = {};
+    DecodedDocument document = decodeDocument(std::exchange(_bytes, {}));
     if (document.text.empty())
         return fail(SyndicatedSessionError::Case::noData);
     const SyndicatedFeedKind kind = detectFeedKind(document.text);
@@ -51,20 +50,21 @@ void SyndicatedSessionPass::parse(SyndicatedFeedKind kind, DecodedDocument docum
             return fail(SyndicatedSessionError::Case::invalidFeed);
         return discoverFeeds(std::move(document.text));
     }
-    const auto parser = makeFeedParser(kind, _feed, document.text, document.encoding, _environment.clock);
+    const SharedBytes text(std::move(document.text));
+    const auto parser = makeFeedParser(kind, _feed, text, document.encoding, _environment.clock);
     if (!parser)
         return fail(SyndicatedSessionError::Case::invalidFeed);
-    parser->parse([&](const SyndicatedFeedParserResult& result) { didParse(result, std::move(document.text), document.encoding); });
+    parser->parse([&](const SyndicatedFeedParserResult& result) { didParse(result, text, document.encoding); });
 }
 
-void SyndicatedSessionPass::didParse(const SyndicatedFeedParserResult& result, std::string data, StringEncoding encoding) {
+void SyndicatedSessionPass::didParse(const SyndicatedFeedParserResult& result, const SharedBytes& text, StringEncoding encoding) {
     // Kept as is: a parser that reports its failure twice makes the session fail twice.
     if (!result)
         return fail(SyndicatedSessionError::Case::invalidFeed);
     _feed->data.reset();
     if (encoding == StringEncoding::utf8)
-        _feed->data = std::move(data);
-    else if (auto bytes = encode(data, encoding))
+        _feed->data = text;
+    else if (auto bytes = encode(text, encoding))
         _feed->data = *std::move(bytes);
     onMain([](SyndicatedSession& session, SyndicatedSessionDelegate* delegate) {
         if (delegate)
@@ -104,12 +104,12 @@ void SyndicatedSessionPass::discoverIcon() {
 
 std::optional<URL> SyndicatedSessionPass::siteRoot() const {
     const URL site = _feed->primaryURL().value_or(_url);
-    const auto host = site.host();
-    if (!host)
+    const std::string_view host = site.host().value_or("");
+    if (host.empty())
         return std::nullopt;
     std::string root(site.scheme().value_or("http"));
     root += "://";
-    root += *host;
+    root += host;
     return URL::make(root);
 }
 

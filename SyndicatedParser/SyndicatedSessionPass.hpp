@@ -21,7 +21,7 @@ private:
     // On the pass's queue.
     void run();
     void parse(SyndicatedFeedKind kind, DecodedDocument document);
-    void didParse(const SyndicatedFeedParserResult& result, std::string data, StringEncoding encoding);
+    void didParse(const SyndicatedFeedParserResult& result, const SharedBytes& text, StringEncoding encoding);
     void discoverFeeds(std::string page);
     void discoverIcon();
     std::optional<URL> siteRoot() const;

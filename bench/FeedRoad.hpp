@@ -23,7 +23,7 @@ inline std::optional<std::size_t> parse(
 
 /// The whole road of a fetched body: decoded, detected, rewritten and parsed.
 inline std::optional<std::size_t> update(std::string_view bytes, const std::shared_ptr<const Clock>& clock) {
-    DecodedDocument document = decodeDocument(bytes);
+    DecodedDocument document = decodeDocument(std::string(bytes));
     const SyndicatedFeedKind kind = detectFeedKind(document.text);
     return parse(kind, std::move(document.text), document.encoding, clock);
 }

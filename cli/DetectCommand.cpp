@@ -13,10 +13,10 @@ namespace {
 using JSON = nlohmann::ordered_json;
 
 CommandResult run(const CommandContext& context) {
-    const auto bytes = readInput(context.arguments.plain.front());
+    auto bytes = readInput(context.arguments.plain.front());
     if (!bytes)
         return tl::unexpected(bytes.error());
-    DecodedDocument document = decodeDocument(*bytes);
+    DecodedDocument document = decodeDocument(*std::move(bytes));
     const std::string kind = document.text.empty() ? std::string() : kindName(detectFeedKind(document.text)); // empty: nothing to detect
     const std::string encoding(name(document.encoding));
     if (context.settings.json) {

@@ -23,8 +23,8 @@ using JSON = nlohmann::ordered_json;
 using Feeds = SyndicatedDiscovery::Feeds;
 
 /// The feeds of a page as a session finds them: in the page's text after detection.
-Feeds discoveredFeeds(std::string_view bytes, const std::shared_ptr<const Clock>& clock) {
-    std::string page = decodeDocument(bytes).text;
+Feeds discoveredFeeds(std::string bytes, const std::shared_ptr<const Clock>& clock) {
+    std::string page = decodeDocument(std::move(bytes)).text;
     if (!page.empty())
         detectFeedKind(page);
     const auto found = std::make_shared<std::optional<Feeds>>();
@@ -58,10 +58,10 @@ std::string discoveredText(const Feeds& feeds) {
 }
 
 CommandResult run(const CommandContext& context) {
-    const auto bytes = readInput(context.arguments.plain.front());
+    auto bytes = readInput(context.arguments.plain.front());
     if (!bytes)
         return tl::unexpected(bytes.error());
-    const Feeds feeds = discoveredFeeds(*bytes, context.settings.clock);
+    const Feeds feeds = discoveredFeeds(*std::move(bytes), context.settings.clock);
     if (context.settings.json)
         context.output.json(discoveredJSON(feeds));
     else

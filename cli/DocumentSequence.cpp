@@ -30,8 +30,8 @@ DocumentSequence::DocumentSequence(std::optional<SyndicatedFeedKind> kind, std::
     : _kind(kind), _clock(std::move(clock)),
       _feed(std::make_shared<SyndicatedFeed>(kind.value_or(SyndicatedFeedKind::unknown), _clock->now())) {}
 
-DocumentSequence::Result DocumentSequence::read(std::string_view bytes) {
-    DecodedDocument document = decodeDocument(bytes);
+DocumentSequence::Result DocumentSequence::read(std::string bytes) {
+    DecodedDocument document = decodeDocument(std::move(bytes));
     Result result;
     result.encoding = document.encoding;
     if (_kind) {

@@ -29,7 +29,7 @@ public:
     /// With a `kind` the documents are not detected: each goes as it is to that kind's parser.
     DocumentSequence(std::optional<SyndicatedFeedKind> kind, std::shared_ptr<const Clock> clock);
 
-    Result read(std::string_view bytes);
+    Result read(std::string bytes);
 
     /// The feed after the latest document, also after one that failed.
     const SyndicatedFeed& feed() const { return *_feed; }

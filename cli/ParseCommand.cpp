@@ -68,10 +68,10 @@ CommandResult run(const CommandContext& context) {
     auto outcome = DocumentSequence::Outcome::finished;
     bool isFirst = true;
     for (const std::string& file : context.arguments.plain) {
-        const auto bytes = readInput(file);
+        auto bytes = readInput(file);
         if (!bytes)
             return tl::unexpected(bytes.error());
-        const DocumentSequence::Result result = sequence.read(*bytes);
+        const DocumentSequence::Result result = sequence.read(*std::move(bytes));
         outcome = result.outcome;
         if (context.settings.json)
             documents.push_back(resultJSON(file, result, sequence.feed()));

@@ -73,7 +73,8 @@ public:
         std::function<void(URLAuthenticationChallengeDisposition disposition, std::optional<URLCredential> credential)>;
 
     virtual ~URLSessionDelegate() = default;
-    virtual void didReceiveData(URLSessionDataTask& task, std::string_view data) = 0;
+    /// The next piece of the body.
+    virtual void didReceiveData(URLSessionDataTask& task, std::string data) = 0;
     /// `error` is absent when the whole body has come, whatever its status.
     virtual void didComplete(URLSessionDataTask& task, const std::optional<URLError>& error) = 0;
     /// Answer with the request to follow, or with none to take the redirect's own body as the answer. Once, at any time, on the main

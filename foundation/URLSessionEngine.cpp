@@ -141,8 +141,7 @@ void URLSessionEngine::complete(URLSessionDataTask& task, Outcome& outcome) {
         return;
     const auto delegate = session->_delegate;
     if (!outcome.body.empty() && !outcome.error)
-        delegate->didReceiveData(task, outcome.body);
-    outcome.body = {};
+        delegate->didReceiveData(task, std::exchange(outcome.body, {}));
     delegate->didComplete(task, outcome.error);
 }
 

@@ -23,8 +23,8 @@ struct Counts {
 };
 
 /// One update of a new feed, as a session makes it of the document's bytes.
-std::pair<Outcome, std::size_t> update(std::string_view bytes) {
-    DecodedDocument document = decodeDocument(bytes);
+std::pair<Outcome, std::size_t> update(std::string bytes) {
+    DecodedDocument document = decodeDocument(std::move(bytes));
     if (document.text.empty())
         return {Outcome::noData, 0};
     const SyndicatedFeedKind kind = detectFeedKind(document.text);

@@ -16,7 +16,7 @@ using Fault = HTTPServer::Response::Fault;
 /// Logs what a session tells, and answers as a test has it.
 class Events : public URLSessionDelegate {
 public:
-    void didReceiveData(URLSessionDataTask&, std::string_view data) override { body += data; }
+    void didReceiveData(URLSessionDataTask&, std::string data) override { body += data; }
     void didComplete(URLSessionDataTask& task, const std::optional<URLError>& completionError) override {
         ++completions;
         error = completionError;
