@@ -51,10 +51,15 @@ RunLoop::RunLoop() : _state(std::make_unique<State>()) {}
 RunLoop::~RunLoop() = default;
 
 void RunLoop::perform(Block block) {
+    bool isFirst = false;
     {
         const std::lock_guard lock(_state->mutex);
+        isFirst = _state->blocks.empty();
         _state->blocks.push_back(std::move(block));
     }
+    // Who was woken for the first block runs all of them.
+    if (!isFirst)
+        return;
     _state->posted.notify_one();
     if (_state->wakeHandler)
         _state->wakeHandler();

@@ -49,7 +49,8 @@ public:
     /// The time of the earliest timer; `Time::max()` when there is none.
     Time nextDeadline() const;
 
-    /// Called from any thread when a block was posted, for a program that has an event loop of its own. Set before other threads run.
+    /// Called from any thread when blocks were posted and none was waiting, for a program that has an event loop of its own. Set before
+    /// other threads run.
     void setWakeHandler(std::function<void()> handler);
 
     /// Replaces the time that timers go by; null for the system's steady clock.

@@ -70,13 +70,17 @@ TEST_F(RunLoopTest, RunsUntilItIsStopped) {
     EXPECT_EQ(ran, 1);
 }
 
-TEST_F(RunLoopTest, CallsTheWakeHandlerForEachPost) {
+TEST_F(RunLoopTest, CallsTheWakeHandlerWhenTheFirstBlockIsPosted) {
     int wakes = 0;
     RunLoop::main().setWakeHandler([&] { ++wakes; });
     RunLoop::main().perform([] {});
+    RunLoop::main().perform([] {});
+    EXPECT_EQ(wakes, 1);
+    RunLoop::main().runPending();
+    RunLoop::main().perform([] {});
+    EXPECT_EQ(wakes, 2);
     RunLoop::main().setWakeHandler(nullptr);
     RunLoop::main().runPending();
-    EXPECT_EQ(wakes, 1);
 }
 
 TEST_F(RunLoopTest, FiresARepeatingTimerFirstAfterAWholeInterval) {
