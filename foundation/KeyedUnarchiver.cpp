@@ -123,12 +123,7 @@ std::optional<std::string> Archive::text(Index value) const {
 
 std::optional<std::int64_t> Archive::integer(Index value) const {
     const std::optional<std::size_t> found = place(value);
-    const Index object = found ? this->object(*found) : value;
-    if (const auto* const integer = _list.get<std::int64_t>(object))
-        return *integer;
-    if (const auto* const flag = _list.get<bool>(object))
-        return static_cast<std::int64_t>(*flag);
-    return std::nullopt;
+    return _list.integer(found ? this->object(*found) : value);
 }
 
 const PropertyList::Array* Archive::elements(Index value, InstanceKind kind, std::string_view key) const {
@@ -264,7 +259,8 @@ tl::expected<std::shared_ptr<Coding>, Error> KeyedUnarchiver::unarchive(std::str
 
     for (const std::size_t place : childrenFirst(archive, *root)) {
         const std::optional<std::string_view> className = archive.className(place);
-        if (!className || containerKind(*className))
+        const std::optional<InstanceKind> container = className ? containerKind(*className) : std::nullopt;
+        if (!className || (container && (container != InstanceKind::dictionary || _allowsDictionaries)))
             continue;
         const auto factory = _factories.find(*className);
         if (factory == _factories.end())

@@ -22,11 +22,15 @@ public:
 
     void setClass(std::string className, Factory factory);
 
+    /// Whether dictionaries may stand in the archive, as arrays always may. They may not unless told.
+    void setAllowsDictionaries(bool allows) { _allowsDictionaries = allows; }
+
     /// The root object; null when it could not be made or is no object of a registered class.
     tl::expected<std::shared_ptr<Coding>, PropertyList::Error> unarchive(std::string_view bytes) const;
 
 private:
     std::map<std::string, Factory, std::less<>> _factories;
+    bool _allowsDictionaries = false;
 };
 
 } // namespace brindle

@@ -27,29 +27,23 @@ std::optional<PropertyList::Index> PropertyList::value(Index dictionary, std::st
     return std::nullopt;
 }
 
+std::optional<std::int64_t> PropertyList::integer(Index index) const {
+    if (const auto* const integer = get<std::int64_t>(index))
+        return *integer;
+    if (const auto* const flag = get<bool>(index))
+        return *flag ? 1 : 0;
+    const auto* const real = get<double>(index);
+    // The comparison also refuses what is no number; 2^63 is the first real that does not fit.
+    const bool fits = real != nullptr && *real >= -0x1p63 && *real < 0x1p63;
+    return fits ? std::optional(static_cast<std::int64_t>(*real)) : std::nullopt;
+}
+
 tl::expected<PropertyList, PropertyList::Error> PropertyList::read(std::string_view bytes) {
     return isBinaryPropertyList(bytes) ? readBinaryPropertyList(bytes) : readXMLPropertyList(bytes);
 }
 
 std::string PropertyList::binary() const {
     return writeBinaryPropertyList(*this);
-}
-
-std::optional<std::map<std::string, std::int64_t>> integerDictionary(std::string_view bytes) {
-    const tl::expected<PropertyList, PropertyList::Error> list = PropertyList::read(bytes);
-    const PropertyList::Dictionary* const pairs = list ? list->get<PropertyList::Dictionary>(list->root) : nullptr;
-    if (pairs == nullptr)
-        return std::nullopt;
-    std::map<std::string, std::int64_t> result;
-    for (const auto& [keyIndex, valueIndex] : *pairs) {
-        const std::string* const key = list->get<std::string>(keyIndex);
-        const std::int64_t* const integer = list->get<std::int64_t>(valueIndex);
-        const bool* const flag = list->get<bool>(valueIndex);
-        if (key == nullptr || (integer == nullptr && flag == nullptr))
-            return std::nullopt;
-        result.emplace(*key, integer != nullptr ? *integer : static_cast<std::int64_t>(*flag));
-    }
-    return result;
 }
 
 } // namespace brindle

@@ -3,7 +3,6 @@
 #include "foundation/Date.hpp"
 
 #include <cstdint>
-#include <map>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -53,6 +52,9 @@ public:
     /// keys counts.
     std::optional<Index> value(Index dictionary, std::string_view key) const;
 
+    /// A number's whole part, 1 and 0 for the booleans; absent for anything else and for what does not fit.
+    std::optional<std::int64_t> integer(Index index) const;
+
     /// Reads the binary form ("bplist00") or the XML form, told apart by the first bytes. Every offset and count is checked; indices in the
     /// result are valid.
     static tl::expected<PropertyList, Error> read(std::string_view bytes);
@@ -60,9 +62,5 @@ public:
     /// The binary form ("bplist00"), equal strings and numbers written once.
     std::string binary() const;
 };
-
-/// A dictionary from text to integer out of a property list's bytes; absent when the root is none or any value is no integer (booleans
-/// count as 0 and 1).
-std::optional<std::map<std::string, std::int64_t>> integerDictionary(std::string_view bytes);
 
 } // namespace brindle

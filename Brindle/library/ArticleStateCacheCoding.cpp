@@ -10,16 +10,11 @@ namespace brindle {
 
 namespace {
 
-std::optional<std::int64_t> wholeNumber(const PropertyList::Object& object) {
-    if (const auto* integer = std::get_if<std::int64_t>(&object))
-        return *integer;
-    if (const auto* boolean = std::get_if<bool>(&object))
-        return *boolean ? 1 : 0;
-    const auto* real = std::get_if<double>(&object);
-    // The comparison also refuses what is no number; 2^63 is the first real that does not fit.
-    if (!real || !(*real >= -0x1p63 && *real < 0x1p63) || static_cast<double>(static_cast<std::int64_t>(*real)) != *real)
-        return std::nullopt;
-    return static_cast<std::int64_t>(*real);
+/// Absent for a number that is not whole.
+std::optional<std::int64_t> wholeNumber(const PropertyList& list, PropertyList::Index index) {
+    const auto number = list.integer(index);
+    const auto* const real = list.get<double>(index);
+    return real && number && static_cast<double>(*number) != *real ? std::nullopt : number;
 }
 
 } // namespace
@@ -51,7 +46,7 @@ std::optional<ArticleStateCache> decodeArticleStates(std::string_view bytes) {
     states.reserve(dictionary->size());
     for (const auto& [key, value] : *dictionary) {
         const auto* text = list->get<std::string>(key);
-        const auto number = wholeNumber(list->at(value));
+        const auto number = wholeNumber(*list, value);
         if (!text || !number)
             return std::nullopt;
         states.emplace(*text, *number);

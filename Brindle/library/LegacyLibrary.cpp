@@ -87,12 +87,7 @@ private:
     /// A number's whole part; absent where it does not fit.
     std::optional<std::int64_t> number(PropertyList::Index dictionary, std::string_view key) const {
         const auto value = _list.value(dictionary, key);
-        if (!value)
-            return std::nullopt;
-        if (const auto* integer = _list.get<std::int64_t>(*value))
-            return *integer;
-        const auto* real = _list.get<double>(*value);
-        return real && *real >= -0x1p63 && *real < 0x1p63 ? std::optional(static_cast<std::int64_t>(*real)) : std::nullopt;
+        return value ? _list.integer(*value) : std::nullopt;
     }
 
     PropertyList _list;

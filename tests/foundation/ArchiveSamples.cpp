@@ -51,6 +51,7 @@ std::shared_ptr<Coding> Node::decoded(const Decoder& decoder) {
 KeyedUnarchiver nodeUnarchiver() {
     KeyedUnarchiver unarchiver;
     unarchiver.setClass("Node", Node::decoded);
+    unarchiver.setAllowsDictionaries(true);
     return unarchiver;
 }
 

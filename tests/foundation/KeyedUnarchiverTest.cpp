@@ -165,13 +165,13 @@ TEST(KeyedUnarchiverTest, ValuesOfAnotherTypeReadAsMissing) {
     EXPECT_FALSE(root->hasChildren);
 }
 
-TEST(KeyedUnarchiverTest, ABooleanIsANumberAndARealIsNone) {
+TEST(KeyedUnarchiverTest, TakesBooleansAndRealsForNumbers) {
     HandMade yes;
     yes.set(1, "number", yes.list.add(true));
     EXPECT_EQ(unarchived(yes.bytes())->number, 1);
     HandMade real;
-    real.set(1, "number", real.uid(real.add(1.0)));
-    EXPECT_EQ(unarchived(real.bytes())->number, -1);
+    real.set(1, "number", real.uid(real.add(45.0)));
+    EXPECT_EQ(unarchived(real.bytes())->number, 45);
 }
 
 TEST(KeyedUnarchiverTest, RefusesWhatIsNoArchive) {

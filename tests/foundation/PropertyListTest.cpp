@@ -231,18 +231,15 @@ TEST(PropertyListTest, RefusesXMLThatIsNoPropertyList) {
     EXPECT_TRUE(isRefused("<rss><channel/></rss>"));
 }
 
-TEST(PropertyListTest, GivesADictionaryOfIntegers) {
-    const std::map<std::string, std::int64_t> expected = {{"a", 1}, {"b", 0}, {"c", -5}};
-    EXPECT_EQ(integerDictionary(xml("<dict><key>a</key><true/><key>b</key><integer>0</integer><key>c</key><integer>-5</integer></dict>")),
-        expected);
-    EXPECT_EQ(integerDictionary(xml("<dict/>")).value().size(), 0U);
-}
-
-TEST(PropertyListTest, GivesNoIntegersOfAnythingElse) {
-    EXPECT_EQ(integerDictionary(xml("<array/>")), std::nullopt);
-    EXPECT_EQ(integerDictionary(xml("<dict><key>a</key><integer>1</integer><key>b</key><string>2</string></dict>")), std::nullopt);
-    EXPECT_EQ(integerDictionary(xml("<dict><key>a</key><real>1</real></dict>")), std::nullopt);
-    EXPECT_EQ(integerDictionary(""), std::nullopt);
+TEST(PropertyListTest, GivesTheWholePartOfANumber) {
+    PropertyList list;
+    EXPECT_EQ(list.integer(list.add(std::int64_t{-5})), -5);
+    EXPECT_EQ(list.integer(list.add(true)), 1);
+    EXPECT_EQ(list.integer(list.add(45.9)), 45);
+    EXPECT_EQ(list.integer(list.add(1e19)), std::nullopt);
+    EXPECT_EQ(list.integer(list.add(std::nan(""))), std::nullopt);
+    EXPECT_EQ(list.integer(list.add(std::string("5"))), std::nullopt);
+    EXPECT_EQ(list.integer(4711), std::nullopt);
 }
 
 } // namespace brindle

@@ -27,6 +27,7 @@ protected:
     std::shared_ptr<FeedItemArticle> readBack(const std::weak_ptr<FeedItem>& item = {}) {
         const auto bytes = KeyedArchiver::archivedData(std::make_shared<FeedItemArticle>(entry, item));
         KeyedUnarchiver unarchiver;
+        unarchiver.setAllowsDictionaries(true);
         unarchiver.setClass("FeedItemArticle", [this](const Decoder& decoder) { return FeedItemArticle::decode(decoder, clock->now()); });
         unarchiver.setClass("FeedItem", [this](const Decoder& decoder) { return FeedItem::decode(decoder, environment); });
         return std::dynamic_pointer_cast<FeedItemArticle>(unarchiver.unarchive(bytes.value()).value());
