@@ -189,6 +189,25 @@ std::optional<std::string> converted(std::string_view data, const std::string& e
     return std::nullopt;
 }
 
+/// `data` with the byte A0 for each "&nbsp;". Markup that was rewritten as Latin 1 has the reference wherever the byte was, also inside
+/// characters of several bytes. Where there are CDATA sections, nothing was rewritten.
+std::string withNoBreakSpaceBytes(std::string_view data) {
+    constexpr std::string_view reference = "&nbsp;";
+    std::string bytes;
+    std::size_t copied = 0;
+    for (std::size_t at = data.find(reference); at != std::string_view::npos; at = data.find(reference, copied)) {
+        bytes.append(data, copied, at - copied).push_back('\xA0');
+        copied = at + reference.size();
+    }
+    return bytes.append(data, copied);
+}
+
+std::optional<std::string> convertedMarkup(std::string_view data, const std::string& encoding) {
+    const bool isRewritten = data.find("<![CDATA[") == std::string_view::npos;
+    std::optional<std::string> text = isRewritten ? converted(withNoBreakSpaceBytes(data), encoding) : std::nullopt;
+    return text ? std::move(text) : converted(data, encoding);
+}
+
 /// The text of bytes that are not UTF-8.
 std::string decodedByDeclaration(std::string_view data) {
     if (data.substr(0, 2) == "\xFE\xFF" || data.substr(0, 2) == "\xFF\xFE") {
@@ -196,7 +215,7 @@ std::string decodedByDeclaration(std::string_view data) {
             return *std::move(text);
     }
     if (const std::optional<std::string> declared = declaredEncoding(data)) {
-        std::optional<std::string> text = converted(data, *declared);
+        std::optional<std::string> text = convertedMarkup(data, *declared);
         // A declaration that could be read in single bytes is untrue when it names an encoding that reads it otherwise, like UTF-16.
         if (text && text->substr(0, 64).find("<?xml") != std::string::npos)
             return *std::move(text);

@@ -213,6 +213,15 @@ TEST(XMLParserTest, OtherBytesAreReadInTheDeclaredEncoding) {
     EXPECT_EQ(events("<?xml version='1.0' encoding='utf-8'?><a>\xC3\xA9</a>", StringEncoding::isoLatin1), "{<a>\xC3\xA9</a>}");
 }
 
+TEST(XMLParserTest, RewrittenNoBreakSpacesAreBytesOfTheDeclaredEncoding) {
+    EXPECT_EQ(events("<?xml version='1.0' encoding='Shift_JIS'?><a>\x83&nbsp;</a>", StringEncoding::isoLatin1), "{<a>\xCE\x92</a>}");
+    EXPECT_EQ(
+        events("<?xml version='1.0' encoding='windows-1251'?><a>\xCF&nbsp;</a>", StringEncoding::isoLatin1), "{<a>\xD0\x9F\xC2\xA0</a>}");
+    EXPECT_EQ(events("<?xml version='1.0' encoding='Shift_JIS'?><a>\x93\xFA&nbsp;</a>", StringEncoding::isoLatin1),
+        "{<a>\xE6\x97\xA5\xC2\xA0</a>}")
+        << "where that byte is none of the encoding, the reference stands for itself";
+}
+
 TEST(XMLParserTest, ADeclarationThatTheBytesContradictGivesWay) {
     EXPECT_EQ(events("<?xml version='1.0' encoding='utf-8'?><a>\xE9</a>", StringEncoding::isoLatin1), "{<a>\xC3\xA9</a>}");
     EXPECT_EQ(events("<?xml version='1.0' encoding='Shift_JIS'?><a>\x93</a>", StringEncoding::isoLatin1), "{<a>\xC2\x93</a>}");
