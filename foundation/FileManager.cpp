@@ -71,8 +71,11 @@ tl::expected<std::string, FileError> FileManager::contents(const fs::path& path)
 }
 
 tl::expected<void, FileError> FileManager::writeAtomically(const fs::path& path, std::string_view bytes) {
-    std::string temporary = (path.parent_path() / ("." + path.filename().string() + ".XXXXXX.tmp")).string();
-    const Descriptor file(::mkostemps(temporary.data(), 4, O_CLOEXEC));
+    // One name for all writers of a file, so that what a crash leaves behind is gone with the next write. Of two that write at once, the
+    // first may find its file gone and fail; what stands in the end is one of theirs, whole.
+    const fs::path temporary = path.parent_path() / ("." + path.filename().string() + ".tmp");
+    ::unlink(temporary.c_str());
+    const Descriptor file(::open(temporary.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0644));
     if (!file)
         return tl::unexpected(FileError::last("write", path));
     const auto failed = [&] {
@@ -80,7 +83,7 @@ tl::expected<void, FileError> FileManager::writeAtomically(const fs::path& path,
         ::unlink(temporary.c_str());
         return tl::unexpected(error);
     };
-    if (::fchmod(file.value(), 0644) != 0 || writeAll(file.value(), bytes) != 0 || ::fsync(file.value()) != 0)
+    if (writeAll(file.value(), bytes) != 0 || ::fsync(file.value()) != 0)
         return failed();
     if (::rename(temporary.c_str(), path.c_str()) != 0)
         return failed();
