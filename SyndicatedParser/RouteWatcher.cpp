@@ -42,9 +42,6 @@ tl::expected<void, std::int32_t> RouteWatcher::startThread() {
     if (!descriptor)
         return tl::unexpected(descriptor.error());
     _running = true;
-    // Read after the watch began, so that no change falls between.
-    if (const auto word = RoutingTable::defaultRouteFlags())
-        _known = *word;
     std::thread([this, changes = *descriptor] { waitForChanges(changes); }).detach();
     return {};
 }
@@ -63,7 +60,6 @@ void RouteWatcher::waitForChanges(int descriptor) {
 
 void RouteWatcher::tellAll() {
     const auto word = RoutingTable::defaultRouteFlags();
-    _known = word ? static_cast<std::int64_t>(*word) : unknown;
     if (!word)
         return;
     std::erase_if(_entries, [](const auto& pair) { return pair.second.expired(); });

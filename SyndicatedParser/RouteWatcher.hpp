@@ -2,7 +2,6 @@
 
 #include "SyndicatedParser/NetworkRoute.hpp"
 
-#include <atomic>
 #include <cstdint>
 #include <map>
 #include <memory>
@@ -31,10 +30,7 @@ private:
     void waitForChanges(int descriptor);
     void tellAll();
 
-    static constexpr std::int64_t unknown = -1;
-
-    std::atomic<std::int64_t> _known = unknown; ///< the flag word last read while changes are watched
-    const DispatchQueue _queue;                 ///< guards what follows
+    const DispatchQueue _queue; ///< guards what follows
     bool _running = false;
     std::uint64_t _lastNumber = 0;
     std::map<std::uint64_t, std::weak_ptr<Entry>> _entries;
