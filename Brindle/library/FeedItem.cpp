@@ -172,7 +172,8 @@ void FeedItem::syndicatedSessionDidFail(SyndicatedSession&, const SyndicatedSess
     assertMainThread();
     std::optional<FeedItemError> reported = error;
     if (error.kind == SyndicatedSessionError::Case::connection) {
-        _lastConnectionFailed = true;
+        // What a newer fetch cancelled says nothing of the connection.
+        _lastConnectionFailed = !error.error || error.error->code != URLError::Code::cancelled;
         Console::print("A connection error occured: " + (error.error ? error.error->description : "unknown"));
         if (!data.empty())
             return _session->start(std::string(data.view()));
