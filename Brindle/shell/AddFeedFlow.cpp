@@ -46,6 +46,7 @@ void AddFeedFlow::confirm(std::string_view address) {
         return;
     const auto candidate = FeedItem::make(name, *url, updateRate, {}, {}, feedsManager->environment());
     candidate->delegate = weak_from_this();
+    stop();
     _newFeedItem = candidate;
     candidate->scheduleUpdates(true);
 }
