@@ -104,9 +104,11 @@ tl::expected<void, CommandError> Library::checkStoredTree(bool writes) const {
     // A damaged library is an empty one. To look at it does no harm, but the next save would replace it.
     if (!writes)
         return {};
-    if (const auto root = LibraryArchive::unarchive(*bytes, _manager->environment()); !root)
-        return failure("the library in " + file.string() + " can't be read: " + root.error().message);
-    return {};
+    const auto root = LibraryArchive::unarchive(*bytes, _manager->environment());
+    if (root && *root)
+        return {};
+    const std::string fault = root ? "Its root is no group of feeds" : root.error().message;
+    return failure("the library in " + file.string() + " can't be read: " + fault);
 }
 
 tl::expected<std::shared_ptr<Feed>, CommandError> Library::feed(const std::string& name) {
