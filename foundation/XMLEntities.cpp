@@ -35,12 +35,11 @@ XMLEntities::Entity::Entity(std::string_view entityName, std::string_view replac
     node.etype = type;
 }
 
-void XMLEntities::declare(std::string_view name, bool isParameter, const xmlChar* content) {
+void XMLEntities::declare(std::string_view name, const xmlChar* content) {
     const std::string_view replacement = content == nullptr ? "" : reinterpret_cast<const char*>(content);
-    Table<Entity>& table = isParameter ? _parameter : _general;
-    std::unique_ptr<Entity>& entity = table[std::string(name)];
+    std::unique_ptr<Entity>& entity = _general[std::string(name)];
     if (entity == nullptr)
-        entity = std::make_unique<Entity>(name, replacement, isParameter ? XML_INTERNAL_PARAMETER_ENTITY : XML_INTERNAL_GENERAL_ENTITY);
+        entity = std::make_unique<Entity>(name, replacement, XML_INTERNAL_GENERAL_ENTITY);
 }
 
 xmlEntity* XMLEntities::general(std::string_view name) const {
@@ -49,11 +48,6 @@ xmlEntity* XMLEntities::general(std::string_view name) const {
         return predefined;
     const auto found = _general.find(key);
     return found == _general.end() ? nullptr : &found->second->node;
-}
-
-xmlEntity* XMLEntities::parameter(std::string_view name) const {
-    const auto found = _parameter.find(std::string(name));
-    return found == _parameter.end() ? nullptr : &found->second->node;
 }
 
 xmlEntity* XMLEntities::named(std::string_view name, bool isContent) const {

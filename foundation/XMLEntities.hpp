@@ -10,16 +10,19 @@
 namespace brindle {
 
 /// The entities of one document, owned here for as long as libxml2 may hold on to them: those that its internal subset declares and
-/// names that are known without being declared. None is ever external: an external entity is empty where it is referred to, as a reader
-/// that does not validate may have it (XML 1.0, 4.4.3). Thread: that of the parse.
+/// names that are known without being declared. An external entity is empty where it is referred to, as a reader that does not validate may
+/// have it (XML 1.0, 4.4.3), and so is every parameter entity: libxml2 goes on in memory that it gave back when it fails inside one.
+/// Thread: that of the parse.
 class XMLEntities {
 public:
-    /// Keeps a parsed entity's first declaration; `content` is the replacement text, null for an external entity.
-    void declare(std::string_view name, bool isParameter, const xmlChar* content);
+    /// Keeps a general entity's first declaration; `content` is the replacement text, null for an external entity.
+    void declare(std::string_view name, const xmlChar* content);
 
     /// The declared general entity, or one of the five that XML predefines; null for an unknown name.
     xmlEntity* general(std::string_view name) const;
-    xmlEntity* parameter(std::string_view name) const;
+
+    /// What every parameter entity is: external, and so never read.
+    xmlEntity* unreadParameter() { return &_parameter.node; }
 
     /// Whether any general entity was declared.
     bool declaresAny() const { return !_general.empty(); }
@@ -46,7 +49,7 @@ private:
     using Table = std::unordered_map<std::string, std::unique_ptr<Value>>;
 
     Table<Entity> _general;
-    Table<Entity> _parameter;
+    Entity _parameter{"", "", XML_EXTERNAL_PARAMETER_ENTITY};
     Table<NamedText> _named;
 };
 

@@ -85,9 +85,7 @@ public:
     static xmlSAXHandler handler() {
         xmlSAXHandler handler{};
         handler.getEntity = [](void* self, const xmlChar* name) { return of(self).entity(view(name)); };
-        handler.getParameterEntity = [](void* self, const xmlChar* name) {
-            return of(self).charged(of(self)._entities.parameter(view(name)));
-        };
+        handler.getParameterEntity = [](void* self, const xmlChar*) { return of(self)._entities.unreadParameter(); };
         handler.entityDecl = declareEntity;
         handler.startElement = startElement;
         handler.endElement = endElement;
@@ -136,10 +134,11 @@ private:
     }
 
     static void declareEntity(void* self, const xmlChar* name, int type, const xmlChar*, const xmlChar*, xmlChar* content) {
-        const bool isParameter = type == XML_INTERNAL_PARAMETER_ENTITY || type == XML_EXTERNAL_PARAMETER_ENTITY;
+        if (type == XML_INTERNAL_PARAMETER_ENTITY || type == XML_EXTERNAL_PARAMETER_ENTITY)
+            return;
         if (content != nullptr && hasTooManyAttributes(view(content)))
             return of(self)._parser.abortParsing(tooManyAttributes);
-        of(self)._entities.declare(view(name), isParameter, content);
+        of(self)._entities.declare(view(name), content);
     }
 
     /// Counts what a reference to a declared entity brings in. Expansions that libxml2 keeps to itself, as in attributes, are counted as

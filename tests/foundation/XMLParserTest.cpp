@@ -135,7 +135,6 @@ TEST(XMLParserTest, ResolvesDeclaredEntities) {
         events("<!DOCTYPE a [<!ENTITY e 'E'><!ENTITY e 'second'><!ENTITY f '<b>&e;</b>'><!ENTITY n ''>]><a b='&e;&n;'>&f;&e;&n;&f;</a>"),
         "{<a b=[E]><b>E</b>E<b>E</b></a>}");
     EXPECT_EQ(events("<!DOCTYPE a [<!ENTITY lt '&#38;#60;'><!ENTITY nbsp 'own'>]><a>&lt;&nbsp;</a>"), "{<a><own</a>}");
-    EXPECT_EQ(events("<!DOCTYPE a [<!ENTITY % p \"<!ENTITY e 'E'>\">%p;]><a>&e;</a>"), "{<a>E</a>}");
     EXPECT_TRUE(isRefused("<!DOCTYPE a [<!ENTITY e '&f;'><!ENTITY f '&e;'>]><a>&e;</a>"));
     EXPECT_TRUE(isRefused("<!DOCTYPE a [<!ENTITY e '<b>'>]><a>&e;</a>"));
 }
@@ -185,6 +184,14 @@ TEST(XMLParserTest, IsStrictInAllElse) {
             "<a b='1' b='2'/>", "<a b='<'/>", "<a>]]></a>", "</a>", "<a><![CDATA[x</a>", "<a>\xC3</a>", "<1/>",
             "x<?xml version='1.0'?><a/>", "<a><?xml version='1.0'?></a>", "<a", "<a/", "<!DOCTYPE a", "<?xml version='1.0'"})
         EXPECT_TRUE(isRefused(bad)) << bad;
+}
+
+TEST(XMLParserTest, ReadsNoParameterEntity) {
+    EXPECT_EQ(events("<!DOCTYPE a [<!ENTITY % p \"<!ENTITY e 'E'>\">%p;%unknown;]><a/>"), "{<a></a>}");
+    EXPECT_TRUE(isRefused("<!DOCTYPE a [<!ENTITY % p \"<!ENTITY e 'E'>\">%p;]><a>&e;</a>"));
+    // So much that libxml2 would look for more input where it failed inside the entity.
+    const std::string padding = "<!--" + std::string(1000, 'x') + "-->";
+    EXPECT_EQ(events("<!DOCTYPE a [" + padding + "<!ENTITY % p '&e;'>%p;]><a/>"), "{<a></a>}");
 }
 
 TEST(XMLParserTest, DeliversWhatCameBeforeAnError) {
