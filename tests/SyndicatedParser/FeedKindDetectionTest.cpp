@@ -21,6 +21,19 @@ FeedReading readDetected(std::string text) {
     return readInto(emptyFeed(kind), kind, std::move(text));
 }
 
+/// What becomes of a document's bytes on the whole road to its feed.
+FeedReading readDocument(std::string bytes) {
+    DecodedDocument document = decodeDocument(std::move(bytes));
+    const SyndicatedFeedKind kind = detectFeedKind(document.text);
+    return readInto(emptyFeed(kind), kind, std::move(document.text), testsupport::presentMoment(), document.encoding);
+}
+
+/// A feed with a title, in an encoding that it declares.
+std::string titled(std::string_view encoding, std::string_view title) {
+    return "<?xml version=\"1.0\" encoding=\"" + std::string(encoding) + "\"?><rss><channel><title>" + std::string(title) +
+           "</title></channel></rss>";
+}
+
 TEST(DecodeDocumentTest, ReadsUTF8WhateverTheDocumentDeclares) {
     const DecodedDocument document = decodeDocument("<?xml version=\"1.0\" encoding=\"ISO-8859-1\"?><a>\u00E4</a>");
     EXPECT_EQ(document.encoding, StringEncoding::utf8);
@@ -50,6 +63,12 @@ TEST(FeedKindDetectionTest, TellsJSONByItsTopLevelAndLeavesTheTextAlone) {
 TEST(FeedKindDetectionTest, TakesNoBareValueForJSON) {
     for (const std::string_view text : {"1", "\"rss\"", "null", "{", "{} x"})
         EXPECT_EQ(kindOf(std::string(text)), SyndicatedFeedKind::unknown) << text;
+}
+
+TEST(FeedKindDetectionTest, LooksForMarkupInAJSONString) {
+    std::string text = "\"<rss></rss>\"";
+    EXPECT_EQ(detectFeedKind(text), SyndicatedFeedKind::rss);
+    EXPECT_EQ(text, "\n\"\n<rss></rss>\"");
 }
 
 TEST(FeedKindDetectionTest, TellsMarkupByItsRootElement) {
@@ -106,6 +125,16 @@ TEST(FeedKindDetectionTest, PutsWhiteSpaceAroundTextsButNotTitles) {
 TEST(FeedKindDetectionTest, KeepsReferencesReadable) {
     const FeedReading reading = readDetected("<rss><channel><title>a&nbsp;b &copy; &amp;lt;</title></channel></rss>");
     EXPECT_EQ(reading.feed->title, "a\u00A0b \u00A9 <");
+}
+
+TEST(FeedKindDetectionTest, LeavesADeclaredEncodingToTheParser) {
+    const FeedReading reading = readDocument(titled("windows-1251", "\xCF\xF0\xE8\xE2\xE5\xF2"));
+    EXPECT_EQ(reading.outcomes(), std::vector<std::string>{"success"});
+    EXPECT_EQ(reading.feed->title, "\u041F\u0440\u0438\u0432\u0435\u0442");
+}
+
+TEST(FeedKindDetectionTest, LeavesAByteThatLooksLikeANoBreakSpaceToTheParser) {
+    EXPECT_EQ(readDocument(titled("Shift_JIS", "\x83\xA0")).feed->title, "\u0392");
 }
 
 TEST(FeedKindDetectionTest, BearsFloods) {

@@ -33,6 +33,15 @@ std::string name(SyndicatedFeedParserError::Case kind) {
     return "invalidFeed";
 }
 
+std::string text(Date date) {
+    return std::to_string(date.time_since_epoch().count());
+}
+
+std::string text(const SyndicatedLink& link) {
+    return (link.url ? link.url->absoluteString() : "none") + ' ' + link.title + ' ' + std::string(brindle::name(link.relation)) + ' ' +
+           std::to_string(link.length);
+}
+
 } // namespace
 
 std::vector<std::string> FeedReading::outcomes() const {
@@ -84,6 +93,31 @@ FeedReading readAtomEntry(std::string entry) {
 
 FeedReading readJSON(std::string text) {
     return read(SyndicatedFeedKind::json, std::move(text));
+}
+
+std::vector<std::string> fields(const SyndicatedFeed& feed) {
+    std::vector<std::string> found = {feed.identifier, feed.title, feed.subtitle, feed.languageCode, feed.copyright,
+        text(feed.datePublished), text(feed.dateUpdated), feed.version};
+    for (const SyndicatedLink& link : feed.links)
+        found.push_back(text(link));
+    for (const SyndicatedCategory& category : feed.categories)
+        found.push_back(category.term() + ' ' + category.label());
+    return found;
+}
+
+std::vector<std::string> fields(const SyndicatedEntry& entry) {
+    std::vector<std::string> found = {entry.identifier, entry.title, text(entry.dateCreated), text(entry.dateUpdated), entry.copyright,
+        entry.isRead() ? "read" : "unread"};
+    for (const auto& content : {entry.content(), entry.summary})
+        found.push_back(content ? std::to_string(static_cast<int>(content->type())) + ' ' + content->content() : "none");
+    for (const SyndicatedLink& link : entry.links)
+        found.push_back(text(link));
+    for (const SyndicatedCategory& category : entry.categories)
+        found.push_back(category.term() + ' ' + category.label());
+    for (const SyndicatedEnclosure& enclosure : entry.enclosures)
+        found.push_back(enclosure.url.absoluteString() + ' ' + std::to_string(enclosure.length) + ' ' +
+                        std::to_string(static_cast<int>(enclosure.kind)));
+    return found;
 }
 
 } // namespace brindle::testsupport

@@ -42,4 +42,10 @@ FeedReading readAtom(std::string content);
 FeedReading readAtomEntry(std::string entry);
 FeedReading readJSON(std::string text);
 
+/// All that a feed has, as texts, but its kind, its entries and its data.
+std::vector<std::string> fields(const SyndicatedFeed& feed);
+
+/// All that an entry has, as texts, but its feed.
+std::vector<std::string> fields(const SyndicatedEntry& entry);
+
 } // namespace brindle::testsupport

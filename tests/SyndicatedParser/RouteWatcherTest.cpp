@@ -1,44 +1,19 @@
 #include "SyndicatedParser/RouteWatcher.hpp"
 
 #include "SyndicatedParser/RoutingTable.hpp"
-#include "tests/support/Network.hpp"
+#include "tests/support/OwnNetwork.hpp"
 
 #include <condition_variable>
 #include <functional>
 #include <gtest/gtest.h>
 #include <mutex>
-#include <string>
-#include <sys/wait.h>
-#include <unistd.h>
 
 namespace brindle {
 namespace {
 
 using testsupport::addDefaultRoute;
+using testsupport::cannotTell;
 using testsupport::ip;
-
-constexpr int cannotTell = 77;
-
-void leaveNetworkOrEnd() {
-    if (!testsupport::leaveNetwork())
-        ::_exit(cannotTell);
-}
-
-/// Runs `body` in a fresh process with a network of its own, and skips the test where there can be none. Its result is the number of the
-/// step that failed, or 0.
-#define EXPECT_HELD_APART(body)                                                                                                            \
-    do {                                                                                                                                   \
-        GTEST_FLAG_SET(death_test_style, "threadsafe");                                                                                    \
-        int ended = -1;                                                                                                                    \
-        const auto note = [&ended](int status) {                                                                                           \
-            ended = WIFEXITED(status) ? WEXITSTATUS(status) : -1;                                                                          \
-            return true;                                                                                                                   \
-        };                                                                                                                                 \
-        EXPECT_EXIT((leaveNetworkOrEnd(), ::_exit((body)())), note, "");                                                                   \
-        if (ended == cannotTell)                                                                                                           \
-            GTEST_SKIP() << "no network namespaces here";                                                                                  \
-        EXPECT_EQ(ended, 0) << "the step that failed";                                                                                     \
-    } while (false)
 
 /// What a watch was told, with a way to wait for it.
 class Told {

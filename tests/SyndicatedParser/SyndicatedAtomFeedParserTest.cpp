@@ -130,6 +130,17 @@ TEST(SyndicatedAtomFeedParserTest, TakesContentAloneAsSummaryToo) {
     EXPECT_EQ(reading.entry().summary, reading.entry().content());
 }
 
+TEST(SyndicatedAtomFeedParserTest, TakesContentInsideContentOrASummaryAlone) {
+    for (const std::string_view text :
+        {"<content type=\"html\"><content>x</content>y</content>", "<summary><content>x</content></summary>"}) {
+        const FeedReading reading = readAtomEntry(std::string(text));
+        ASSERT_NE(reading.entry().content(), nullptr) << text;
+        EXPECT_EQ(reading.entry().content()->type(), MIMEType::plain) << text;
+        EXPECT_EQ(reading.entry().content()->content(), "x") << text;
+        EXPECT_EQ(reading.entry().summary, reading.entry().content()) << text;
+    }
+}
+
 TEST(SyndicatedAtomFeedParserTest, KeepsSummaryAndContentApartInEitherOrder) {
     for (const std::string_view entry : {"<summary>s</summary><content>c</content>", "<content>c</content><summary>s</summary>"}) {
         const FeedReading reading = readAtomEntry(std::string(entry));

@@ -49,6 +49,14 @@ TEST(SyndicatedJSONFeedParserTest, KeepsAFeedsLinkWithoutURLAndSanitisesNone) {
     EXPECT_TRUE(console.lines.empty());
 }
 
+TEST(SyndicatedJSONFeedParserTest, HasNoPrimaryURLWhereItsOwnAddressIsNone) {
+    const FeedReading reading = readJSON(R"({"feed_url":"a b"})");
+    ASSERT_EQ(reading.feed->links.size(), 1U);
+    EXPECT_EQ(reading.feed->links[0].url, std::nullopt);
+    EXPECT_EQ(reading.feed->links[0].relation, Relation::alternate);
+    EXPECT_EQ(reading.feed->primaryURL(), std::nullopt);
+}
+
 TEST(SyndicatedJSONFeedParserTest, TakesAnObjectWithNoneOfTheKeysAsAnEmptyFeed) {
     const FeedReading before = readJSON(R"({"title":"T","items":[{"id":"1"}]})");
     const FeedReading reading = readInto(before.feed, SyndicatedFeedKind::json, "{}");
@@ -113,6 +121,16 @@ TEST(SyndicatedJSONFeedParserTest, PrefersAnItemsOwnURLToTheExternalOne) {
     ASSERT_EQ(reading.entry().links.size(), 2U);
     EXPECT_EQ(reading.entry().preferredLinkURL(), URL::make("http://a/"));
     EXPECT_EQ(readItem(R"({"external_url":"http://b/"})").entry().links.at(0).relation, Relation::related);
+}
+
+TEST(SyndicatedJSONFeedParserTest, DropsAnItemsLinkThatIsNone) {
+    EXPECT_TRUE(readItem(R"({"external_url":"a b"})").entry().links.empty());
+}
+
+TEST(SyndicatedJSONFeedParserTest, ReadsTagsAndAttachmentsOfArraysAlone) {
+    const FeedReading reading = readItem(R"({"tags":"x","attachments":{"url":"http://a/1","mime_type":"audio/mpeg"}})");
+    EXPECT_TRUE(reading.entry().categories.empty());
+    EXPECT_TRUE(reading.entry().enclosures.empty());
 }
 
 TEST(SyndicatedJSONFeedParserTest, MakesACategoryOfEachTag) {

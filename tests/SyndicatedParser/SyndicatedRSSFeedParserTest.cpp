@@ -10,6 +10,7 @@ namespace {
 using testsupport::CapturedConsole;
 using testsupport::date;
 using testsupport::FeedReading;
+using testsupport::fields;
 using testsupport::presentMoment;
 using testsupport::read;
 using testsupport::readRSS;
@@ -95,6 +96,24 @@ TEST(SyndicatedRSSFeedParserTest, ReadsRDFWithItemsBesideTheChannel) {
     EXPECT_EQ(reading.entry().content()->content(), "D");
 }
 
+TEST(SyndicatedRSSFeedParserTest, ReadsRDFExactlyAsRSS) {
+    const std::string channel = element("title", "A &amp;amp; B") + element("link", " http://a/ ") + element("description", "C") +
+                                element("language", "de") + element("pubDate", monday) + element("lastBuildDate", tuesday) +
+                                element("category", "K");
+    const std::string item = "<item>" + element("title", "T &amp;amp; U") + element("link", " http://a/1 ") +
+                             element("description", "&lt;p&gt;D&lt;/p&gt;") + element("guid", " 1 ") + element("pubDate", monday) +
+                             element("category", "L") + element("author", " W ") +
+                             "<enclosure url=\"http://a/1.mp3\" length=\"123\" type=\"audio/mpeg\"/></item>";
+    const FeedReading rss = read(SyndicatedFeedKind::rss, "<rss><channel>" + channel + item + "</channel></rss>");
+    const FeedReading rdf = read(SyndicatedFeedKind::rdf, "<rdf:RDF><channel>" + channel + "</channel>" + item + "</rdf:RDF>");
+    ASSERT_EQ(rss.feed->entries.size(), 1U);
+    ASSERT_EQ(rdf.feed->entries.size(), 1U);
+    EXPECT_EQ(rdf.feed->kind, SyndicatedFeedKind::rdf);
+    EXPECT_EQ(fields(*rdf.feed), fields(*rss.feed));
+    EXPECT_EQ(fields(rdf.entry()), fields(rss.entry()));
+    EXPECT_EQ(fields(rss.entry()).back(), "http://a/1.mp3 123 1") << "what both were read into is not empty";
+}
+
 TEST(SyndicatedRSSFeedParserTest, CollectsNoBuildDateOfAnItemOutsideTheChannel) {
     const std::string item = "<item>" + element("lastBuildDate", tuesday) + "</item>";
     EXPECT_EQ(readRSS(item).entry().dateUpdated, tuesdayDate);
@@ -128,6 +147,16 @@ TEST(SyndicatedRSSFeedParserTest, GivesALinkByAttributeInAnItemToTheFeed) {
     EXPECT_EQ(reading.feed->links[0].url, URL::make("http://a/u"));
     EXPECT_EQ(reading.feed->links[0].relation, SyndicatedLinkRelation::self);
     EXPECT_TRUE(reading.entry().links.empty());
+}
+
+TEST(SyndicatedRSSFeedParserTest, TakesTheLatestCDATABlockAsTheTextOfALinkByAttributeToo) {
+    const FeedReading reading = readRSSItem("<title><![CDATA[http://a/]]></title><link href=\"http://u/\"/>");
+    ASSERT_EQ(reading.feed->links.size(), 1U);
+    EXPECT_EQ(reading.feed->links[0].url, URL::make("http://u/"));
+    EXPECT_EQ(reading.feed->links[0].relation, SyndicatedLinkRelation::self);
+    ASSERT_EQ(reading.entry().links.size(), 1U);
+    EXPECT_EQ(reading.entry().links[0].url, URL::make("http://a/"));
+    EXPECT_EQ(reading.entry().links[0].relation, SyndicatedLinkRelation::alternate);
 }
 
 TEST(SyndicatedRSSFeedParserTest, GivesALinkByAttributeToTheFeedEvenWithoutURL) {

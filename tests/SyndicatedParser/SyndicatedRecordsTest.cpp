@@ -2,6 +2,7 @@
 #include "tests/SyndicatedParser/FeedReading.hpp"
 
 #include <gtest/gtest.h>
+#include <vector>
 
 namespace brindle {
 namespace {
@@ -133,6 +134,20 @@ TEST(SyndicatedFeedKindTest, ComesFromTheRootElementsNameInAnyCase) {
 TEST(SyndicatedFeedKindTest, IsUnknownForAnyOtherRootElement) {
     for (const std::string_view name : {"feeds", "rssfeed", "atom:feed", "json", ""})
         EXPECT_EQ(feedKindOfRootElement(name), SyndicatedFeedKind::unknown) << name;
+}
+
+/// What is stored as numbers must mean the same for ever.
+TEST(SyndicatedRecordsTest, StoreTheirEnumerationsAsTheseNumbers) {
+    using Type = SyndicatedContent::MIMEType;
+    using Kind = SyndicatedEnclosure::Kind;
+    using State = SyndicatedEntry::State;
+    using Relation = SyndicatedLinkRelation;
+    const auto numbers = [](auto... values) { return std::vector<int>{static_cast<int>(values)...}; };
+    EXPECT_EQ(numbers(Type::plain, Type::raw), (std::vector<int>{0, 1}));
+    EXPECT_EQ(numbers(Kind::other, Kind::audio, Kind::video, Kind::image), (std::vector<int>{0, 1, 2, 3}));
+    EXPECT_EQ(numbers(State::unread, State::read), (std::vector<int>{0, 1}));
+    EXPECT_EQ(numbers(Relation::alternate, Relation::related, Relation::self, Relation::enclosure, Relation::via, Relation::unknown),
+        (std::vector<int>{0, 1, 2, 3, 4, 5}));
 }
 
 } // namespace

@@ -1,66 +1,9 @@
-#include "SyndicatedParser/SyndicatedSession.hpp"
+#include "tests/SyndicatedParser/SyndicatedSessionFixture.hpp"
 
-#include "foundation/Console.hpp"
-#include "tests/fakes/ClockFake.hpp"
-#include "tests/fakes/IconDiscoveryFake.hpp"
-#include "tests/fakes/NetworkRouteFake.hpp"
-#include "tests/fakes/SyndicatedSessionDelegateFake.hpp"
-#include "tests/support/HTTPServer.hpp"
-#include "tests/support/MainLoop.hpp"
-
-#include <gtest/gtest.h>
+#include <algorithm>
 
 namespace brindle {
 namespace {
-
-using Case = SyndicatedSessionError::Case;
-using Fault = HTTPServer::Response::Fault;
-using Log = std::vector<std::string>;
-
-constexpr std::string_view rss = "<rss><channel><title>News</title><item><title>One</title><guid>1</guid></item></channel></rss>";
-constexpr std::string_view atom = "<feed><title>Atom</title><entry><title>A</title><id>a</id></entry></feed>";
-constexpr std::string_view json = R"({"version":"1.1","title":"JSON","items":[{"id":"1","title":"J"}]})";
-
-std::string page(const std::string& links) {
-    return "<html><head>" + links + "</head><body>hello</body></html>";
-}
-std::string link(const std::string& href) {
-    return R"(<link rel="alternate" type="application/rss+xml" href=")" + href + "\"/>";
-}
-
-class SyndicatedSessionTest : public testing::Test {
-protected:
-    SyndicatedSessionTest() {
-        Console::redirect([this](std::string_view line) { _lines.emplace_back(line); });
-    }
-    ~SyndicatedSessionTest() override { Console::redirect(nullptr); }
-
-    void make(std::string_view path) {
-        _session = SyndicatedSession::make(_server.url(path), {_clock, _route, _icons});
-        _session->delegate = _delegate;
-    }
-
-    /// Starts the session, one for `path` where there is none, with an empty log; true when `call` came last.
-    bool update(std::string_view path, const std::string& call) {
-        if (!_session)
-            make(path);
-        _delegate->log.clear();
-        _session->start();
-        return waitFor(call);
-    }
-
-    bool waitFor(const std::string& call) {
-        return runMainLoop([&] { return !_delegate->log.empty() && _delegate->log.back() == call; });
-    }
-
-    HTTPServer _server;
-    const std::shared_ptr<ClockFake> _clock = std::make_shared<ClockFake>(Date(std::chrono::hours(400000)));
-    const std::shared_ptr<NetworkRouteFake> _route = std::make_shared<NetworkRouteFake>();
-    const std::shared_ptr<IconDiscoveryFake> _icons = std::make_shared<IconDiscoveryFake>();
-    const std::shared_ptr<SyndicatedSessionDelegateFake> _delegate = std::make_shared<SyndicatedSessionDelegateFake>();
-    std::shared_ptr<SyndicatedSession> _session;
-    Log _lines;
-};
 
 TEST_F(SyndicatedSessionTest, TurnsADocumentOfEachFormatIntoItsFeed) {
     struct Document {
@@ -91,55 +34,6 @@ TEST_F(SyndicatedSessionTest, NamesItselfByItsUserAgent) {
     EXPECT_EQ(_server.requests()[0].header("user-agent"), SyndicatedSession::defaultUserAgent());
     EXPECT_TRUE(SyndicatedSession::defaultUserAgent().starts_with("SyndicatedParser/9.0.0 (macOS/iOS; "));
     EXPECT_EQ(_server.requests()[1].header("user-agent"), "Brindle/1 (macOS; here)");
-}
-
-TEST_F(SyndicatedSessionTest, FollowsThreeRedirectsOfAnyKindAndKeepsTheLastAddress) {
-    for (const int status : {301, 302, 303, 307, 308}) {
-        _session.reset();
-        _server.redirect("/1", "/2", status);
-        _server.redirect("/2", "/3", status);
-        _server.redirect("/3", "/feed", status);
-        _server.route("/feed", HTTPServer::document(std::string(rss)));
-        ASSERT_TRUE(update("/1", "endIconStep")) << status;
-        EXPECT_EQ(_session->url(), _server.url("/feed"));
-    }
-}
-
-TEST_F(SyndicatedSessionTest, RefusesAFourthRedirectAndTakesItsBody) {
-    _server.redirect("/1", "/2");
-    _server.redirect("/2", "/3");
-    _server.redirect("/3", "/4");
-    _server.redirect("/4", "/feed");
-    _server.route("/feed", HTTPServer::document(std::string(rss)));
-    ASSERT_TRUE(update("/1", "fail noData"));
-    EXPECT_EQ(_session->url(), _server.url("/4"));
-    EXPECT_EQ(_server.requestCount("/feed"), 0U);
-}
-
-TEST_F(SyndicatedSessionTest, ReadsTheBodyOfTheRefusedRedirect) {
-    _server.redirect("/1", "/2");
-    _server.redirect("/2", "/3");
-    _server.redirect("/3", "/4");
-    HTTPServer::Response last = HTTPServer::document(std::string(rss));
-    last.status = 302;
-    last.headers.emplace_back("Location", "/elsewhere");
-    _server.route("/4", last);
-    ASSERT_TRUE(update("/1", "endIconStep"));
-    EXPECT_EQ(_session->feed()->title, "News");
-}
-
-TEST_F(SyndicatedSessionTest, CountsRedirectsAnewAtEachConnect) {
-    _server.redirect("/1", "/2");
-    _server.redirect("/2", "/feed");
-    _server.route("/feed", HTTPServer::document(std::string(rss)));
-    make("/1");
-    ASSERT_TRUE(update("/1", "endIconStep"));
-    _server.redirect("/feed", "/b");
-    _server.redirect("/b", "/c");
-    _server.redirect("/c", "/d");
-    _server.route("/d", HTTPServer::document(std::string(rss)));
-    ASSERT_TRUE(update("/feed", "endIconStep"));
-    EXPECT_EQ(_session->url(), _server.url("/d"));
 }
 
 TEST_F(SyndicatedSessionTest, FailsWithNoDataForAnEmptyBody) {
@@ -214,6 +108,35 @@ TEST_F(SyndicatedSessionTest, FailsABodyThatIsCutOff) {
     ASSERT_TRUE(update("/x", "fail connection"));
 }
 
+TEST_F(SyndicatedSessionTest, KeepsItsAddressAndItsFeedThroughFailures) {
+    serve("/x", rss);
+    ASSERT_TRUE(update("/x", "endIconStep"));
+    const auto expectUnchanged = [&](const char* failure) {
+        EXPECT_EQ(_session->url(), _server.url("/x")) << failure;
+        EXPECT_EQ(_session->feed()->title, "News") << failure;
+        ASSERT_EQ(_session->feed()->entries.size(), 1U) << failure;
+        EXPECT_EQ(_session->feed()->entries[0]->title, "One") << failure;
+    };
+    HTTPServer::Response dropped;
+    dropped.fault = Fault::drop;
+    _server.route("/x", dropped);
+    ASSERT_TRUE(update("/x", "fail connection"));
+    expectUnchanged("a dropped connection");
+    serve("/x", "");
+    ASSERT_TRUE(update("/x", "fail noData"));
+    expectUnchanged("an empty body");
+    serve("/x", "<catalogue/>");
+    ASSERT_TRUE(update("/x", "fail invalidFeed"));
+    expectUnchanged("an unknown document");
+}
+
+TEST_F(SyndicatedSessionTest, KeepsWhatWasReadOfADocumentThatFailed) {
+    serve("/x", "<rss><channel><title>Part</title></channel></rss><x/>");
+    ASSERT_TRUE(update("/x", "fail invalidFeed"));
+    EXPECT_EQ(_delegate->log, (Log{"detect RSS", "fail invalidFeed"}));
+    EXPECT_EQ(_session->feed()->title, "Part");
+}
+
 TEST_F(SyndicatedSessionTest, ReadsLatin1WhereABodyIsNotUTF8AndKeepsThatEncoding) {
     _server.route("/x", HTTPServer::document("<rss><channel><title>Caf\xE9</title></channel></rss>"));
     ASSERT_TRUE(update("/x", "endIconStep"));
@@ -227,98 +150,6 @@ TEST_F(SyndicatedSessionTest, LeavesTheDataAbsentWhereTheTextCannotBeEncodedBack
     ASSERT_TRUE(update("/x", "endIconStep"));
     EXPECT_EQ(_session->feed()->title, "Caf\xC3\xA9 \xE2\x86\x92");
     EXPECT_FALSE(_session->feed()->data);
-}
-
-TEST_F(SyndicatedSessionTest, MovesFromAPageToItsOnlyFeedWithoutAWord) {
-    _server.route("/page", HTTPServer::document(page(link(_server.origin() + "/feed")), "text/html"));
-    _server.route("/feed", HTTPServer::document(std::string(rss)));
-    ASSERT_TRUE(update("/page", "endIconStep"));
-    EXPECT_EQ(_delegate->log, (Log{"shouldDiscoverFeeds", "detect RSS", "finish", "endIconStep"}));
-    EXPECT_EQ(_session->url(), _server.url("/feed"));
-}
-
-TEST_F(SyndicatedSessionTest, OffersTheFeedsOfAPageWithSeveral) {
-    _server.route("/page", HTTPServer::document(page(link("http://a.test/1") + link("http://a.test/2")), "text/html"));
-    ASSERT_TRUE(update("/page", "discover 2"));
-    EXPECT_EQ(_session->feed()->kind, SyndicatedFeedKind::html);
-    EXPECT_EQ(_session->url(), _server.url("/page"));
-}
-
-TEST_F(SyndicatedSessionTest, OffersNothingForAPageWithoutFeeds) {
-    _server.route("/page", HTTPServer::document(page(""), "text/html"));
-    ASSERT_TRUE(update("/page", "discover 0"));
-}
-
-TEST_F(SyndicatedSessionTest, FailsWithNoURLWhereTheOnlyFeedHasNone) {
-    _server.route("/page", HTTPServer::document(page(link("not an address")), "text/html"));
-    ASSERT_TRUE(update("/page", "fail noURL"));
-}
-
-TEST_F(SyndicatedSessionTest, FailsAPageWhereDiscoveryIsDeclinedOrNobodyAnswers) {
-    _server.route("/page", HTTPServer::document(page(link("http://a.test/1")), "text/html"));
-    _delegate->discoversFeeds = false;
-    ASSERT_TRUE(update("/page", "fail invalidFeed"));
-    EXPECT_EQ(_delegate->log, (Log{"shouldDiscoverFeeds", "fail invalidFeed"}));
-}
-
-TEST_F(SyndicatedSessionTest, QueuesTheOnlyFeedOfAPageWhileTheNetworkIsAway) {
-    make("/page");
-    _route->change(0);
-    _session->start(page(link(_server.origin() + "/feed")));
-    _server.route("/feed", HTTPServer::document(std::string(rss)));
-    ASSERT_TRUE(runMainLoop([&] { return _session->isQueued(); }));
-    EXPECT_EQ(_session->url(), _server.url("/feed"));
-    _route->change(NetworkReachabilityFlags::reachable);
-    ASSERT_TRUE(waitFor("endIconStep"));
-    EXPECT_FALSE(_session->isQueued());
-}
-
-TEST_F(SyndicatedSessionTest, WaitsForTheNetworkWithoutAWord) {
-    _route->change(0);
-    _server.route("/feed", HTTPServer::document(std::string(rss)));
-    make("/feed");
-    EXPECT_FALSE(_session->isReachable());
-    _session->start();
-    EXPECT_TRUE(_session->isQueued());
-    RunLoop::main().runPending();
-    EXPECT_EQ(_delegate->log, Log());
-    _route->change(NetworkReachabilityFlags::reachable);
-    ASSERT_TRUE(waitFor("endIconStep"));
-    EXPECT_TRUE(_session->isReachable());
-    EXPECT_FALSE(_session->isQueued());
-}
-
-TEST_F(SyndicatedSessionTest, FetchesWhenTheNetworkComesThoughItWasNeverStarted) {
-    _route->change(0);
-    _server.route("/feed", HTTPServer::document(std::string(rss)));
-    make("/feed");
-    RunLoop::main().runPending();
-    _route->change(NetworkReachabilityFlags::reachable);
-    ASSERT_TRUE(waitFor("endIconStep"));
-}
-
-TEST_F(SyndicatedSessionTest, DoesNotFetchAgainWhenTheNetworkComesBack) {
-    _server.route("/feed", HTTPServer::document(std::string(rss)));
-    ASSERT_TRUE(update("/feed", "endIconStep"));
-    _route->change(0);
-    RunLoop::main().runPending();
-    EXPECT_FALSE(_session->isReachable());
-    _route->change(NetworkReachabilityFlags::reachable);
-    RunLoop::main().runPending();
-    EXPECT_TRUE(_session->isReachable());
-    ASSERT_TRUE(update("/feed", "endIconStep"));
-    EXPECT_EQ(_server.requestCount("/feed"), 2U);
-}
-
-TEST_F(SyndicatedSessionTest, BearsAMonitorThatCannotWatch) {
-    _route->watchFailure = 1003;
-    _server.route("/feed", HTTPServer::document(std::string(rss)));
-    ASSERT_TRUE(update("/feed", "endIconStep"));
-}
-
-TEST_F(SyndicatedSessionTest, StopsTheProcessWithoutAMonitor) {
-    GTEST_FLAG_SET(death_test_style, "threadsafe");
-    EXPECT_DEATH(SyndicatedSession::make(*URL::make("http://a.test/"), {_clock, nullptr, nullptr}), "Fatal error: ");
 }
 
 TEST_F(SyndicatedSessionTest, ReportsTheFetchThatASecondStartCancels) {
@@ -346,6 +177,21 @@ TEST_F(SyndicatedSessionTest, ParsesGivenBytesWithoutTheNetwork) {
     _route->change(NetworkReachabilityFlags::reachable);
     _server.route("/feed", HTTPServer::document(std::string(atom)));
     ASSERT_TRUE(waitFor("endIconStep") && runMainLoop([&] { return _session->feed()->title == "Atom"; })) << "it had not connected yet";
+}
+
+TEST_F(SyndicatedSessionTest, ParsesGivenBytesBesideWhatItFetched) {
+    serve("/feed", "<rss><channel><title>Fetched</title></channel></rss>");
+    ASSERT_TRUE(update("/feed", "endIconStep"));
+    _delegate->log.clear();
+    _session->start(std::string(rss));
+    ASSERT_TRUE(waitFor("endIconStep"));
+    EXPECT_EQ(_delegate->log, (Log{"detect RSS", "finish", "endIconStep"}));
+    EXPECT_EQ(_session->feed()->title, "News");
+    EXPECT_EQ(_server.requestCount("/feed"), 1U);
+    EXPECT_FALSE(_session->isQueued());
+    ASSERT_TRUE(update("/feed", "endIconStep"));
+    EXPECT_EQ(_delegate->log, (Log{"detect RSS", "finish", "endIconStep"})) << "no other fetch was under way";
+    EXPECT_EQ(_server.requestCount("/feed"), 2U);
 }
 
 TEST_F(SyndicatedSessionTest, FetchesForEmptyBytes) {
@@ -387,31 +233,6 @@ TEST_F(SyndicatedSessionTest, TakesTheLockedPageWhereNobodyHasACredential) {
     _server.route("/feed", locked);
     _delegate->cancelsAuthentication = false;
     ASSERT_TRUE(update("/feed", "endIconStep"));
-}
-
-TEST_F(SyndicatedSessionTest, LooksForTheIconAtTheRootOfTheFirstAlternateLink) {
-    _server.route("/feed", HTTPServer::document("<rss><channel><link>https://site.test:8080/a/b?c</link></channel></rss>"));
-    _icons->bytes = "icon";
-    ASSERT_TRUE(update("/feed", "endIconStep"));
-    EXPECT_EQ(_icons->roots, Log{"https://site.test"});
-    EXPECT_EQ(_delegate->log, (Log{"detect RSS", "finish", "icon icon", "endIconStep"}));
-}
-
-TEST_F(SyndicatedSessionTest, LooksForTheIconAtItsOwnHostWhereTheFeedHasNoLink) {
-    _server.route("/feed", HTTPServer::document(std::string(rss)));
-    ASSERT_TRUE(update("/feed", "endIconStep"));
-    EXPECT_EQ(_icons->roots, Log{"http://127.0.0.1"});
-    EXPECT_EQ(_delegate->log, (Log{"detect RSS", "finish", "endIconStep"}));
-}
-
-TEST_F(SyndicatedSessionTest, LooksForNoIconWithoutAHostOrAWish) {
-    _server.route("/feed", HTTPServer::document("<rss><channel><link>/relative</link></channel></rss>"));
-    ASSERT_TRUE(update("/feed", "endIconStep"));
-    _server.route("/feed", HTTPServer::document(std::string(rss)));
-    _session.reset();
-    _delegate->discoversIcon = false;
-    ASSERT_TRUE(update("/feed", "endIconStep"));
-    EXPECT_EQ(_icons->roots, Log());
 }
 
 TEST_F(SyndicatedSessionTest, SaysNothingToADelegateThatIsGone) {
