@@ -190,6 +190,20 @@ TEST_F(FeedItemTest, TakesAnEditedTitleForANewArticleAndKeepsTheOldKey) {
     EXPECT_EQ(item->articleStateCache.count("A&http://a.invalid/a"), 1U);
 }
 
+TEST_F(FeedItemTest, TakesAReadEntryWithANewLinkForANewArticleThatIsRead) {
+    const auto item = makeItem();
+    const auto document = [](const std::string& link, const std::string& date) {
+        return "<rss><channel><item><title>A</title><guid>1</guid><link>" + link + "</link><pubDate>" + date +
+               " Jun 2020 10:00:00 GMT</pubDate></item></channel></rss>";
+    };
+    parse(*item, document("http://a.invalid/1", "Mon, 01"));
+    item->markArticle(*item->articles()[0], ArticleStateFilter::read);
+    const auto call = parse(*item, document("http://a.invalid/2", "Tue, 02"));
+    EXPECT_THAT(titles(call.newArticles), ElementsAre("A"));
+    EXPECT_TRUE(item->articles()[0]->entry->isRead());
+    EXPECT_THAT(item->articleStateCache, UnorderedElementsAre(std::pair("A&http://a.invalid/1", 1), std::pair("A&http://a.invalid/2", 1)));
+}
+
 TEST_F(FeedItemTest, LeavesAListThatWasReadEarlierValid) {
     const auto item = makeItem();
     parse(*item, rss({{"A", ""}}));

@@ -47,6 +47,27 @@ TEST_F(FeedUpdateTest, FetchesAtEachShotOfItsTimer) {
     EXPECT_EQ(server.requestCount("/feed"), 4U);
 }
 
+TEST_F(FeedUpdateTest, CancelsAFetchThatHangsWhenItsTimerFires) {
+    HTTPServer::Response hanging;
+    hanging.fault = HTTPServer::Response::Fault::hang;
+    server.route("/feed", hanging);
+    const auto item = itemAt("/feed");
+    item->updateRate = 10;
+    item->scheduleUpdates(true);
+    ASSERT_TRUE(runMainLoop([&] { return server.requestCount("/feed") == 1; }));
+    server.route("/feed", HTTPServer::document(rss({{"A", ""}})));
+    time->advance(std::chrono::minutes(10));
+    const auto cancelled = nextCall(0);
+    EXPECT_EQ(cancelled.name, "feedItemDidFail");
+    ASSERT_TRUE(cancelled.error);
+    EXPECT_EQ(std::get<URLError>(*cancelled.error).code, URLError::Code::cancelled);
+    const auto finished = nextCall(1);
+    EXPECT_EQ(finished.name, "feedItemDidFinishParsing");
+    EXPECT_THAT(titles(finished.newArticles), ElementsAre("A"));
+    EXPECT_EQ(server.requestCount("/feed"), 2U);
+    EXPECT_FALSE(item->lastConnectionFailed());
+}
+
 TEST_F(FeedUpdateTest, GoesOnAtItsRateThroughFailures) {
     server.route("/feed", HTTPServer::Response());
     const auto item = itemAt("/feed");

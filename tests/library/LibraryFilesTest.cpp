@@ -139,6 +139,12 @@ TEST_F(LibraryFilesTest, RefusesAnArchiveWithAnyOtherClass) {
     EXPECT_THAT(takeLines(), ::testing::Contains(StartsWith("Could not unarchive feeds, error: ")));
 }
 
+TEST_F(LibraryFilesTest, RefusesAnArchiveWithADictionaryAmongItsFeeds) {
+    script("odd " + quoted("Feeds.brindle") + " dictionary");
+    EXPECT_THAT(loadedManager()->feeds, IsEmpty());
+    EXPECT_THAT(takeLines(), ElementsAre("Removing FeedGroup Before", StartsWith("Could not unarchive feeds, error: ")));
+}
+
 TEST_F(LibraryFilesTest, RefusesWhatIsNoArchive) {
     writeFile("Feeds.brindle", "no archive");
     EXPECT_THAT(loadedManager()->feeds, IsEmpty());
@@ -185,6 +191,22 @@ TEST_F(LibraryFilesTest, BringsBackTheLastFeedsWhenAllWereRemoved) {
     EXPECT_EQ(file("Feeds.brindle"), stored);
     EXPECT_THAT(loadedManager()->feeds, SizeIs(3));
     EXPECT_TRUE(exists(std::string("Data/") + uuidText));
+}
+
+TEST_F(LibraryFilesTest, DoesNotStoreThatUpdatesAreNotAllowed) {
+    {
+        const auto manager = makeManager();
+        manager->addFeed(makeItem(), 0);
+        manager->allowUpdates = false;
+        manager->applyUpdateState(manager->feeds);
+        manager->save();
+    }
+    const auto manager = loadedManager();
+    EXPECT_TRUE(manager->allowUpdates);
+    manager->applyUpdateState(manager->feeds);
+    const auto item = FeedsManager::items(manager->feeds)[0];
+    EXPECT_TRUE(item->hasTimer());
+    EXPECT_TRUE(item->session().isQueued()) << "it fetches, and waits for the network";
 }
 
 TEST_F(LibraryFilesTest, LoadsAFeedWithoutFilesClean) {
@@ -272,9 +294,18 @@ TEST_F(LibraryFilesTest, TellsOfALibraryThatCannotBeWrittenAndWritesTheFeedsFile
     item->data = "document";
     manager->addFeed(item, 0);
     std::filesystem::create_directory(folder / "Feeds.brindle");
-    manager->save();
+    EXPECT_FALSE(manager->save());
     EXPECT_THAT(takeLines(), ElementsAre("Removing FeedGroup __SAVED_FEED_GROUP__", StartsWith("Could not write Feeds Library, error: ")));
     EXPECT_EQ(file("Data/" + item->uuid.uuidString()), "document");
+}
+
+TEST_F(LibraryFilesTest, TakesAwayWhatACrashLeftBesideTheLibrary) {
+    const auto manager = makeManager();
+    manager->addFeed(FeedSeparator::make(), 0);
+    writeFile(".Feeds.brindle.tmp", "half a libr");
+    EXPECT_TRUE(manager->save());
+    EXPECT_FALSE(exists(".Feeds.brindle.tmp"));
+    EXPECT_THAT(loadedManager()->feeds, SizeIs(1));
 }
 
 TEST_F(LibraryFilesTest, ImportsALegacyLibraryOnceAndMovesIt) {

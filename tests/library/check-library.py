@@ -122,6 +122,11 @@ def odd(path, name):
     writer = Writer()
     if name == "foreign-class":
         root = writer.group("__SAVED_FEED_GROUP__", [lambda: writer.instance(("Intruder", "NSObject"), {}), writer.separator])
+    elif name == "dictionary":
+        root = writer.group("__SAVED_FEED_GROUP__", [
+            lambda: writer.group("Before", []),
+            lambda: writer.instance(("NSDictionary", "NSObject"), {
+                "NS.keys": lambda: [writer.text("feedName")], "NS.objects": lambda: [writer.text("Name")]})])
     elif name == "no-group":
         root = writer.separator()
     elif name == "wrong-types":

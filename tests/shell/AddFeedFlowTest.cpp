@@ -225,6 +225,42 @@ TEST_F(AddFeedFlowTest, ASecondAddressDropsTheFirstCandidate) {
     ASSERT_EQ(manager->feeds.size(), 1U);
 }
 
+TEST_F(AddFeedFlowTest, ARefusedAddressLeavesTheCandidateAsItIs) {
+    HTTPServer::Response slow = HTTPServer::document(feedText);
+    slow.fault = HTTPServer::Response::Fault::hang;
+    server.route("/slow", std::move(slow));
+    flow->confirm(server.origin() + "/slow");
+    const std::shared_ptr<FeedItem> candidate = flow->newFeedItem();
+    flow->confirm("httpexample.test");
+    EXPECT_EQ(log->calls, (std::vector<std::string>{"fail"}));
+    EXPECT_EQ(log->failure, AddFeedFlow::Failure::invalidAddress);
+    EXPECT_EQ(flow->newFeedItem(), candidate);
+    server.release();
+    EXPECT_TRUE(runMainLoop([&] { return log->calls.size() > 1; }));
+    EXPECT_EQ(log->calls, (std::vector<std::string>{"fail", "commit"}));
+    EXPECT_EQ(log->committed, AddFeedFlow::FeedItems{candidate});
+}
+
+TEST_F(AddFeedFlowTest, TheEndOfADroppedCandidateCommitsNothing) {
+    HTTPServer laterServer;
+    HTTPServer::Response slow = HTTPServer::document(feedText);
+    slow.fault = HTTPServer::Response::Fault::hang;
+    server.route("/first", slow);
+    laterServer.route("/second", slow);
+    flow->confirm(server.origin() + "/first");
+    const std::shared_ptr<FeedItem> first = flow->newFeedItem();
+    flow->confirm(laterServer.origin() + "/second");
+    server.release();
+    EXPECT_TRUE(runMainLoop([&] { return !first->articles().empty(); }));
+    EXPECT_TRUE(log->calls.empty());
+    EXPECT_TRUE(manager->feeds.empty());
+    laterServer.release();
+    EXPECT_TRUE(runMainLoop([&] { return !log->calls.empty(); }));
+    EXPECT_EQ(log->calls, (std::vector<std::string>{"commit"}));
+    ASSERT_EQ(log->committed.size(), 1U);
+    EXPECT_EQ(log->committed[0]->url(), laterServer.url("/second"));
+}
+
 TEST_F(AddFeedFlowTest, StoppingLetsTheCandidateGo) {
     route->change(0);
     flow->confirm(server.origin() + "/feed");
