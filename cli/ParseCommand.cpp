@@ -65,14 +65,16 @@ CommandResult run(const CommandContext& context) {
     DocumentSequence sequence(*kind, context.settings.clock);
     JSON documents = JSON::array();
     std::string text;
-    auto outcome = DocumentSequence::Outcome::finished;
+    CommandResult end = ExitStatus::done;
     bool isFirst = true;
     for (const std::string& file : context.arguments.plain) {
         auto bytes = readInput(file);
-        if (!bytes)
-            return tl::unexpected(bytes.error());
+        if (!bytes) {
+            end = tl::unexpected(std::move(bytes.error()));
+            break;
+        }
         const DocumentSequence::Result result = sequence.read(*std::move(bytes));
-        outcome = result.outcome;
+        end = result.outcome == DocumentSequence::Outcome::finished ? ExitStatus::done : ExitStatus::failed;
         if (context.settings.json)
             documents.push_back(resultJSON(file, result, sequence.feed()));
         else
@@ -82,18 +84,20 @@ CommandResult run(const CommandContext& context) {
                 sequence.markRead(key);
         }
     }
-    if (context.settings.json)
+    // What was read before a file that can't be read is a result all the same.
+    if (!documents.empty())
         context.output.json(documents);
     else
         context.output.text(text);
-    return outcome == DocumentSequence::Outcome::finished ? ExitStatus::done : ExitStatus::failed;
+    return end;
 }
 
 } // namespace
 
 Command parseCommand() {
     return {"parse", "[--as KIND] [--mark-read KEY]... FILE...",
-        "Parses documents one after another, as consecutive fetches of one feed. The exit status is 1 when the last one is no feed.",
+        "Parses documents one after another, as consecutive fetches of one feed. The exit status is 1 when the last one is no feed; a file "
+        "that can't be read ends it.",
         {{"as", "KIND", "rss, rdf, atom or json: parse as that, without detection"},
             {"mark-read", "KEY", "after the first document, set the entries with that effective identifier to read"}},
         1, Command::anyNumber, run};

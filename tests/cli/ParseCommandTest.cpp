@@ -143,15 +143,44 @@ TEST_F(ParseCommandTest, GivesTheTextAsItIsToTheParserThatIsNamed) {
     EXPECT_EQ(json["feed"]["entries"].size(), 2U);
     const auto broken = runJSON({"parse", "--as", "rss", file("b.xml", "<rss><channel>")}, 1)[0];
     EXPECT_EQ(broken["outcome"], "invalidFeed");
-    EXPECT_EQ(broken["handlerCalls"].front(), "parseError");
+    EXPECT_EQ(broken["handlerCalls"], nlohmann::ordered_json::array({"parseError"}));
     for (const char* kind : {"rdf", "atom"})
         EXPECT_EQ(runJSON({"parse", "--as", kind, file("a.xml", rss)})[0]["feed"]["kind"], kind);
 }
 
 TEST_F(ParseCommandTest, CallsAnEmptyTextWithANamedParserAnInvalidFeed) {
-    const auto json = runJSON({"parse", "--as", "json", file("a.json", "")}, 1)[0];
+    const std::string empty = file("a.txt", "");
+    const auto markup = runJSON({"parse", "--as", "rss", empty}, 1)[0];
+    EXPECT_EQ(markup["outcome"], "invalidFeed");
+    EXPECT_EQ(markup["handlerCalls"], nlohmann::ordered_json::array({"emptyString", "parseError"}));
+    const auto json = runJSON({"parse", "--as", "json", empty}, 1)[0];
     EXPECT_EQ(json["outcome"], "invalidFeed");
-    EXPECT_EQ(json["handlerCalls"].front(), "emptyString");
+    EXPECT_EQ(json["handlerCalls"], nlohmann::ordered_json::array({"emptyString", "invalidFeed"}));
+}
+
+TEST_F(ParseCommandTest, GivesAReadableDocumentToTheNamedJSONParser) {
+    const auto json = runJSON({"parse", "--as", "json", file("a.json", R"({"title":"T","items":[{"id":"1"}]})")})[0];
+    EXPECT_TRUE(json["detected"].is_null());
+    EXPECT_EQ(json["handlerCalls"], nlohmann::ordered_json::array({"success"}));
+    EXPECT_EQ(json["outcome"], "finished");
+    EXPECT_EQ(json["feed"]["kind"], "json");
+    EXPECT_EQ(json["feed"]["title"], "T");
+    EXPECT_EQ(json["feed"]["entries"].size(), 1U);
+}
+
+TEST_F(ParseCommandTest, PrintsWhatItReadBeforeAFileThatCannotBeRead) {
+    const std::string good = file("a.xml", rss);
+    const std::string missing = folder() / "missing.xml";
+    const std::vector<std::string> message = {"brindle-cli: Could not read " + missing + ": No such file or directory"};
+    for (const std::string format : {"--locale=en_US", "--json"}) {
+        const std::string alone = run({format, "parse", good}).output;
+        const CommandLineRun result = run({format, "parse", good, missing, good});
+        EXPECT_EQ(result.status, 1) << format;
+        EXPECT_NE(result.output, "") << format;
+        EXPECT_EQ(result.output, alone) << format;
+        EXPECT_EQ(result.messages(), message) << format;
+        expectError({format, "parse", missing, good}, 1, "Could not read " + missing);
+    }
 }
 
 TEST_F(ParseCommandTest, RefusesAKindThatHasNoParser) {
