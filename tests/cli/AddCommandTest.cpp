@@ -38,6 +38,12 @@ TEST_F(AddCommandTest, TriesCommitsFetchesAgainAndSaves) {
     EXPECT_EQ(server.requestCount("/feed"), 2U);
 }
 
+TEST_F(AddCommandTest, PrintsTheKeysOfAFeedInTheOrderOfTheList) {
+    serve("/feed", rssDocument("First", {}));
+    EXPECT_EQ(keys(runJSON({"add", address("/feed")})[0]),
+        (std::vector<std::string>{"kind", "name", "uuid", "url", "updateRate", "articles", "unread"}));
+}
+
 TEST_F(AddCommandTest, TakesANameAndARate) {
     serve("/feed", rssDocument("First", {}));
     const auto added = runJSON({"add", "--name", "Mine", "--rate=60", address("/feed"), "--no-icons"});

@@ -57,10 +57,18 @@ std::vector<std::string> CommandLineRun::messages() const {
     return found;
 }
 
-CommandLineRun CommandLineTest::call(const std::vector<std::string>& arguments) {
-    const std::string inputFile = file("stdin", input);
-    const std::string outputFile = outputPath.empty() ? (_folder / "stdout").string() : outputPath;
-    const std::string errorFile = errorPath.empty() ? (_folder / "stderr").string() : errorPath;
+std::vector<std::string> keys(const nlohmann::ordered_json& object) {
+    std::vector<std::string> found;
+    for (const auto& member : object.items())
+        found.push_back(member.key());
+    return found;
+}
+
+CommandLineCall CommandLineTest::start(const std::vector<std::string>& arguments) {
+    const std::string number = std::to_string(++_callCount);
+    const std::string inputFile = file("stdin" + number, input);
+    const std::string outputFile = outputPath.empty() ? (_folder / ("stdout" + number)).string() : outputPath;
+    const std::string errorFile = errorPath.empty() ? (_folder / ("stderr" + number)).string() : errorPath;
     posix_spawn_file_actions_t actions;
     ::posix_spawn_file_actions_init(&actions);
     const std::array<const std::string*, 3> files = {&inputFile, &outputFile, &errorFile};
@@ -76,25 +84,39 @@ CommandLineRun CommandLineTest::call(const std::vector<std::string>& arguments) 
     pid_t process = 0;
     const int error = ::posix_spawn(&process, words[0].c_str(), &actions, nullptr, pointers(words).data(), pointers(variables).data());
     ::posix_spawn_file_actions_destroy(&actions);
-    CommandLineRun result;
     if (error != 0) {
         ADD_FAILURE() << words[0] << ": " << std::strerror(error);
-        return result;
+        return {};
     }
+    return {process, outputPath.empty() ? outputFile : std::string(), errorPath.empty() ? errorFile : std::string()};
+}
+
+CommandLineRun CommandLineTest::end(const CommandLineCall& call) {
+    CommandLineRun result;
+    if (call.process < 0)
+        return result;
     int status = 0;
-    while (::waitpid(process, &status, 0) < 0 && errno == EINTR) {
+    while (::waitpid(call.process, &status, 0) < 0 && errno == EINTR) {
     }
     result.status = WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
-    result.output = outputPath.empty() ? contents(outputFile) : std::string();
-    result.errors = errorPath.empty() ? contents(errorFile) : std::string();
+    result.output = call.outputFile.empty() ? std::string() : contents(call.outputFile);
+    result.errors = call.errorFile.empty() ? std::string() : contents(call.errorFile);
     return result;
 }
 
-CommandLineRun CommandLineTest::run(const std::vector<std::string>& arguments) {
+CommandLineRun CommandLineTest::call(const std::vector<std::string>& arguments) {
+    return end(start(arguments));
+}
+
+CommandLineCall CommandLineTest::begin(const std::vector<std::string>& arguments) {
     std::vector<std::string> words = {
         "--support-dir", supportFolder().string(), "--now", std::string(now), "--locale", "en_US", "--timezone", "GMT"};
     words.insert(words.end(), arguments.begin(), arguments.end());
-    return call(words);
+    return start(words);
+}
+
+CommandLineRun CommandLineTest::run(const std::vector<std::string>& arguments) {
+    return end(begin(arguments));
 }
 
 nlohmann::ordered_json CommandLineTest::runJSON(const std::vector<std::string>& arguments, int status) {

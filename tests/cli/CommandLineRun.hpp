@@ -8,6 +8,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <sys/types.h>
 #include <vector>
 
 namespace brindle {
@@ -23,6 +24,16 @@ struct CommandLineRun {
     std::vector<std::string> messages() const;
 };
 
+/// A call of the program that is under way.
+struct CommandLineCall {
+    pid_t process = -1;     ///< -1 where it could not be started
+    std::string outputFile; ///< empty where standard output goes elsewhere
+    std::string errorFile;  ///< empty where standard error goes elsewhere
+};
+
+/// An object's keys in their order.
+std::vector<std::string> keys(const nlohmann::ordered_json& object);
+
 /// Calls the real program on a library of its own, with a clock that stands still at `now`, in the time zone GMT and the locale en_US.
 class CommandLineTest : public ::testing::Test {
 protected:
@@ -32,6 +43,9 @@ protected:
     CommandLineRun call(const std::vector<std::string>& arguments);
     /// Calls the program with the fixture's global options in front.
     CommandLineRun run(const std::vector<std::string>& arguments);
+    /// As `run` without waiting; `end` waits for what `begin` gave.
+    CommandLineCall begin(const std::vector<std::string>& arguments);
+    static CommandLineRun end(const CommandLineCall& call);
     /// As `run` with `--json`; fails the test where standard output is no JSON.
     nlohmann::ordered_json runJSON(const std::vector<std::string>& arguments, int status = 0);
 
@@ -50,7 +64,10 @@ protected:
     std::vector<std::pair<std::string, std::string>> environment; ///< changes to the environment
 
 private:
+    CommandLineCall start(const std::vector<std::string>& arguments);
+
     TemporaryFolder _folder;
+    int _callCount = 0; ///< names each call's files
 };
 
 } // namespace brindle

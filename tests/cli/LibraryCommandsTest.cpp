@@ -1,30 +1,25 @@
-#include "foundation/FileLock.hpp"
 #include "tests/cli/LibraryFolder.hpp"
 
 #include <fstream>
-#include <map>
 
 namespace brindle {
 
 namespace {
 
 using Titles = std::vector<std::string>;
+using Keys = std::vector<std::string>;
 
-/// Every file of a folder with its bytes.
-std::map<std::string, std::string> filesOf(const std::filesystem::path& folder) {
-    std::map<std::string, std::string> files;
-    for (const auto& entry : std::filesystem::recursive_directory_iterator(folder)) {
-        if (!entry.is_regular_file())
-            continue;
-        std::ifstream file(entry.path(), std::ios::binary);
-        files[entry.path().string()] = std::string(std::istreambuf_iterator<char>(file), {});
-    }
-    return files;
-}
+const Keys itemKeys = {"kind", "name", "uuid", "url", "updateRate", "articles", "unread"};
+const Keys groupKeys = {"kind", "name", "articles", "unread", "children"};
+const Keys separatorKeys = {"kind", "name", "articles", "unread"};
 
 } // namespace
 
-class LibraryCommandsTest : public LibraryFolderTest {};
+class LibraryCommandsTest : public LibraryFolderTest {
+protected:
+    /// Replaces the document that is stored for a feed.
+    void store(std::string_view uuid, const std::string& document) const { std::ofstream(supportFolder() / "Data" / uuid) << document; }
+};
 
 TEST_F(LibraryCommandsTest, ListPrintsTheTree) {
     const CommandLineRun result = run({"--json", "list"});
@@ -96,60 +91,6 @@ TEST_F(LibraryCommandsTest, TheLibraryIsTheDesktopProgramsUnlessAFolderIsGiven) 
     EXPECT_EQ(result.errors, "brindle-cli: Could not find Application Support folder for current user!\n");
 }
 
-TEST_F(LibraryCommandsTest, ReadingCommandsNeitherWriteNorNeedTheLock) {
-    const auto lock = FileLock::tryLock(supportFolder() / ".lock");
-    ASSERT_TRUE(lock && *lock);
-    const auto before = filesOf(supportFolder());
-    for (const std::vector<std::string>& command : std::vector<std::vector<std::string>>{{"list"}, {"articles"}, {"search", "a"}})
-        EXPECT_EQ(run(command).status, 0) << command[0];
-    EXPECT_EQ(filesOf(supportFolder()), before);
-}
-
-TEST_F(LibraryCommandsTest, WritingCommandsTouchNothingWhileTheLockIsHeld) {
-    const auto lock = FileLock::tryLock(supportFolder() / ".lock");
-    ASSERT_TRUE(lock && *lock);
-    const auto before = filesOf(supportFolder());
-    const std::string uuid(first);
-    for (const std::vector<std::string>& command : std::vector<std::vector<std::string>>{{"add", "http://127.0.0.1:1/"}, {"add-group", "G"},
-             {"add-separator"}, {"edit", uuid, "--name", "N"}, {"remove", uuid}, {"update"}, {"mark", "read"}})
-        expectError(command, 1, "is in use by another program");
-    EXPECT_EQ(filesOf(supportFolder()), before);
-}
-
-TEST_F(LibraryCommandsTest, ReadsADamagedLibraryAsAnEmptyOneAndSaysSo) {
-    std::ofstream(supportFolder() / "Feeds.brindle") << "damaged";
-    const auto list = run({"--json", "list"});
-    EXPECT_EQ(list.status, 0);
-    EXPECT_EQ(list.output, "[]\n");
-    EXPECT_TRUE(list.errors.starts_with("Could not unarchive feeds, error: ")) << list.errors;
-}
-
-TEST_F(LibraryCommandsTest, ChangesNothingInALibraryThatCannotBeRead) {
-    std::ofstream(supportFolder() / "Feeds.brindle") << "damaged";
-    expectError({"add-group", "News"}, 1, "can't be read");
-    EXPECT_EQ(filesOf(supportFolder())[(supportFolder() / "Feeds.brindle").string()], "damaged");
-}
-
-TEST_F(LibraryCommandsTest, FailsForASupportFolderThatIsAFile) {
-    const std::string path = file("plain", "text");
-    expectError({"--support-dir", path, "list"}, 1, "Not a directory");
-    expectError({"--support-dir", path, "add-group", "G"}, 1, path);
-}
-
-TEST_F(LibraryCommandsTest, FailsWhenTheLibraryCannotBeSaved) {
-    std::filesystem::remove(supportFolder() / "Feeds.brindle");
-    std::filesystem::create_directories(supportFolder() / "Feeds.brindle" / "in the way");
-    expectError({"add-group", "G"}, 1, "Is a directory");
-}
-
-TEST_F(LibraryCommandsTest, StoresALibraryOfTheFirstVersionsAtOnce) {
-    std::ofstream(supportFolder() / "Feeds Library.brindle")
-        << R"(<plist version="1.0"><array><dict><key>Kind</key><string>feedGroup</string><key>groupName</key><string>Old</string></dict></array></plist>)";
-    EXPECT_EQ(outline(), "Old() ");
-    EXPECT_EQ(outline(), "Old() ");
-    EXPECT_TRUE(std::filesystem::exists(supportFolder() / "Old Feeds Library.brindle"));
-}
-
 TEST_F(LibraryCommandsTest, AddGroupAndAddSeparatorAppendToTheTopLevel) {
     const auto added = runJSON({"add-group", "Fun"});
     ASSERT_EQ(added.size(), 1U);
@@ -200,6 +141,16 @@ TEST_F(LibraryCommandsTest, RemoveTakesGroupsAndSeparatorsOutByTheirPlaces) {
     EXPECT_EQ(outline(), "One - ");
 }
 
+TEST_F(LibraryCommandsTest, PrintsTheKeysOfAnEntryInOneOrder) {
+    EXPECT_EQ(keys(runJSON({"add-group", "Fun"})[0]), groupKeys);
+    EXPECT_EQ(keys(runJSON({"add-separator"})[0]), separatorKeys);
+    EXPECT_EQ(keys(runJSON({"edit", std::string(first), "--name", "N"})[0]), itemKeys);
+    EXPECT_EQ(keys(runJSON({"edit", "@1", "--name", "N"})[0]), groupKeys);
+    EXPECT_EQ(keys(runJSON({"remove", "@4"})[0]), separatorKeys);
+    EXPECT_EQ(keys(runJSON({"remove", "@3"})[0]), groupKeys);
+    EXPECT_EQ(keys(runJSON({"remove", std::string(first)})[0]), itemKeys);
+}
+
 TEST_F(LibraryCommandsTest, RemoveSaysThatAnEmptyLibraryIsNotStored) {
     EXPECT_EQ(run({"remove", "@2"}).messages().size(), 0U);
     EXPECT_EQ(run({"remove", "@1"}).status, 0);
@@ -245,6 +196,18 @@ TEST_F(LibraryCommandsTest, ArticlesAreThoseOfAStateAndOfAPartOfTheTree) {
     expectError({"articles", "--state", "new"}, 2, "--state takes unread, read or any");
 }
 
+TEST_F(LibraryCommandsTest, AnArticleWithoutALinkHasNoURL) {
+    store(first, "<rss><channel><item><title>Alone</title></item></channel></rss>");
+    const auto articles = runJSON({"articles", "--feed", std::string(first)});
+    ASSERT_EQ(articles.size(), 1U);
+    EXPECT_TRUE(articles[0]["url"].is_null());
+    EXPECT_EQ(articles[0]["key"], "Alone&");
+}
+
+TEST_F(LibraryCommandsTest, SearchPrintsTheKeysOfAnArticleInTheOrderOfArticles) {
+    EXPECT_EQ(keys(runJSON({"search", "Gamma"})[0]), (Keys{"feed", "title", "url", "state", "dateUpdated", "key"}));
+}
+
 TEST_F(LibraryCommandsTest, SearchFindsTitlesWhateverTheirCaseAndDiacritics) {
     EXPECT_EQ(titles({"search", "BETA"}), (Titles{"B\u00e9ta"}));
     EXPECT_EQ(titles({"search", "\u00e0"}), (Titles{"Alpha", "B\u00e9ta", "Gamma"}));
@@ -261,6 +224,12 @@ TEST_F(LibraryCommandsTest, MarkChangesAllOneFeedsOrOneArticleAndSaves) {
     EXPECT_EQ(runJSON({"mark", "read"})["changed"], 0);
     EXPECT_EQ(runJSON({"mark", "unread", "--feed", "@1"})["changed"], 1);
     EXPECT_EQ(titles({"articles", "--state", "unread"}), (Titles{"Gamma"}));
+}
+
+TEST_F(LibraryCommandsTest, MarkChangesTheArticlesOfAllFeedsThatShareAKey) {
+    store(second, rssDocument("Second", {"Alpha"}));
+    EXPECT_EQ(runJSON({"mark", "read", "--key", "Alpha&http://a.test/A"})["changed"], 2);
+    EXPECT_EQ(titles({"articles", "--state", "read"}), (Titles{"Alpha", "Alpha"}));
 }
 
 TEST_F(LibraryCommandsTest, MarkFailsForAKeyThatNoArticleHas) {

@@ -1,8 +1,14 @@
+#include "Brindle/library/FeedGroup.hpp"
+#include "Brindle/library/FeedItem.hpp"
+#include "Brindle/library/FeedsManager.hpp"
+#include "foundation/Console.hpp"
 #include "tests/cli/NetworkCommandTest.hpp"
+#include "tests/support/MainLoop.hpp"
 
 #include <array>
 #include <cstdlib>
 #include <fcntl.h>
+#include <memory>
 #include <unistd.h>
 
 namespace brindle {
@@ -15,6 +21,21 @@ protected:
         std::string uuid = add(path);
         server.route(path, std::move(later));
         return uuid;
+    }
+
+    /// Stores a library of a feed at "/top" and a group with feeds at these paths.
+    void storeGroup(const std::vector<std::string>& paths) const {
+        Console::redirect([](std::string_view) {});
+        const SyndicatedSessionEnvironment offline = {std::make_shared<SystemClock>(), absentNetworkRoute(), nullptr};
+        FeedsManager manager(supportFolder(), offline, {});
+        const auto makeItem = [&](const std::string& path) { return FeedItem::make(path, server.url(path), 30, {}, {}, offline); };
+        const auto group = FeedGroup::make("Group");
+        manager.addFeed(makeItem("/top"), 0);
+        manager.addFeed(group, 1);
+        for (const std::string& path : paths)
+            manager.addFeed(makeItem(path), -1, group);
+        manager.createSupportDirectories();
+        manager.save();
     }
 
     std::string outcomeOf(const std::string& uuid) { return runJSON({"update", "--feed", uuid}, 1)[0]["outcome"]; }
@@ -68,6 +89,18 @@ TEST_F(UpdateCommandTest, FetchesTheNamedFeedsAlone) {
     expectError({"update", "--feed", "00000000-0000-0000-0000-000000000009"}, 1, "no feed has the UUID");
 }
 
+TEST_F(UpdateCommandTest, FetchesTheFeedsBelowANamedGroupAlone) {
+    for (const char* path : {"/top", "/one", "/two"})
+        serve(path, rssDocument("Feed", {"Alpha"}));
+    storeGroup({"/one", "/two"});
+    const auto updated = runJSON({"update", "--feed", "@1"});
+    ASSERT_EQ(updated.size(), 2U);
+    EXPECT_EQ(updated[0]["url"], address("/one"));
+    EXPECT_EQ(updated[1]["url"], address("/two"));
+    EXPECT_EQ(updated[1]["outcome"], "finished");
+    EXPECT_EQ(server.requestCount("/top"), 0U);
+}
+
 TEST_F(UpdateCommandTest, HasNothingToDoInAnEmptyLibrary) {
     EXPECT_EQ(runJSON({"update"}), nlohmann::ordered_json::array());
 }
@@ -98,6 +131,15 @@ TEST_F(UpdateCommandTest, NamesWhatIsWrongWithAFeed) {
     EXPECT_EQ(outcomeOf(addThen("/link", HTTPServer::document("<html>" + link + "</html>"))), "noURL");
 }
 
+TEST_F(UpdateCommandTest, LeavesAFeedThatBecameAPageOfSeveralFeedsWhereItIs) {
+    const std::string links = R"(<link rel="alternate" type="application/rss+xml" href="http://127.0.0.1:1/a"/>)"
+                              R"(<link rel="alternate" type="application/rss+xml" href="http://127.0.0.1:1/b"/>)";
+    const std::string uuid = addThen("/page", HTTPServer::document("<html>" + links + "</html>"));
+    const auto updated = runJSON({"update", "--feed", uuid}, 1);
+    EXPECT_EQ(updated[0]["outcome"], "discovered");
+    EXPECT_EQ(updated[0]["url"], address("/page"));
+}
+
 TEST_F(UpdateCommandTest, KeepsTheArticlesOfAFeedThatFailed) {
     addThen("/feed", HTTPServer::document("<opml/>"));
     runJSON({"update"}, 1);
@@ -115,6 +157,32 @@ TEST_F(UpdateCommandTest, GivesUpAfterItsTimeAndSavesWhatCame) {
     EXPECT_EQ(runJSON({"articles"}).size(), 3U);
     for (const char* timeout : {"0", "x", "-1", "1.5"})
         expectError({"update", "--timeout", timeout}, 2, "--timeout takes a whole number");
+}
+
+TEST_F(UpdateCommandTest, PrintsWhatCameWhenTheLibraryCannotBeSaved) {
+    serve("/feed", rssDocument("Feed", {"Alpha"}));
+    add("/feed");
+    // Where the file is written before it gets its name.
+    std::filesystem::create_directory(supportFolder() / ".Feeds.brindle.tmp");
+    const CommandLineRun result = run({"--json", "update"});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(result.json()[0]["outcome"], "finished");
+    ASSERT_EQ(result.messages().size(), 1U) << result.errors;
+    EXPECT_NE(result.messages()[0].find("could not be saved"), std::string::npos) << result.messages()[0];
+}
+
+TEST_F(UpdateCommandTest, LetsNobodyWriteWhileItWaits) {
+    const std::string document = rssDocument("Feed", {"Alpha"});
+    HTTPServer::Response hanging = HTTPServer::document(document);
+    hanging.fault = HTTPServer::Response::Fault::hang;
+    addThen("/feed", hanging);
+    const CommandLineCall update = begin({"update"});
+    ASSERT_TRUE(runMainLoop([&] { return server.requestCount("/feed") == 3; })) << "two were made when it was added";
+    expectError({"add-group", "G"}, 1, "is in use by another program");
+    server.release();
+    EXPECT_EQ(end(update).status, 0);
+    EXPECT_EQ(runJSON({"list"}).size(), 1U);
+    EXPECT_EQ(run({"add-group", "G"}).status, 0);
 }
 
 TEST_F(UpdateCommandTest, StoresANewAddressAfterARedirect) {
