@@ -3,8 +3,10 @@
 #include "foundation/URL.hpp"
 
 #include <chrono>
+#include <cstddef>
 #include <cstdint>
 #include <functional>
+#include <limits>
 #include <map>
 #include <memory>
 #include <optional>
@@ -90,6 +92,7 @@ struct URLSessionConfiguration {
     std::map<std::string, std::string> additionalHeaders;
     std::chrono::milliseconds timeoutForRequest{60'000}; ///< with no byte coming
     std::chrono::milliseconds timeoutForResource{7LL * 24 * 3600 * 1000};
+    std::size_t maximumBody = std::numeric_limits<std::size_t>::max(); ///< bytes, unpacked; an answer that has more fails
 };
 
 /// One GET. Made by a session; starts at `resume`. Thread: main.

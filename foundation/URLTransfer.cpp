@@ -133,6 +133,8 @@ std::optional<URLAuthenticationChallenge> URLTransfer::challenge() const {
 std::size_t URLTransfer::receiveBody(char* data, std::size_t size, std::size_t count, void* transfer) {
     auto& self = *static_cast<URLTransfer*>(transfer);
     self._lastActivity = std::chrono::steady_clock::now();
+    if (size * count > self._request.configuration.maximumBody - self._body.size())
+        return CURL_WRITEFUNC_ERROR;
     if (self._body.empty())
         self.makeRoom();
     self._body.append(data, size * count);
@@ -174,6 +176,8 @@ URLError urlError(CURLcode code) {
         return {Code::cannotConnect, "The proxy's name could not be found."};
     case CURLE_COULDNT_CONNECT:
         return {Code::cannotConnect, "Could not connect to the server."};
+    case CURLE_WRITE_ERROR:
+        return {Code::other, "The server's answer is too large."};
     case CURLE_GOT_NOTHING:
         return {Code::connectionLost, "The server closed the connection without an answer."};
     case CURLE_PARTIAL_FILE:
