@@ -1,8 +1,11 @@
 #pragma once
 
 #include <cstddef>
+#include <memory>
 #include <span>
 #include <string_view>
+
+#include "html/Arena.hpp"
 
 namespace brindle::html {
 
@@ -37,5 +40,15 @@ public:
 private:
     std::span<const Attribute> _attributes;
 };
+
+/// A copy of `attributes` that lives as long as the arena. Their texts are not copied.
+inline Attributes copyOf(std::span<const Attribute> attributes, Arena& arena) {
+    if (attributes.empty()) {
+        return {};
+    }
+    auto* const first = static_cast<Attribute*>(arena.allocate(attributes.size_bytes(), alignof(Attribute)));
+    std::uninitialized_copy(attributes.begin(), attributes.end(), first);
+    return Attributes({first, attributes.size()});
+}
 
 } // namespace brindle::html

@@ -2,6 +2,7 @@
 
 #include <string_view>
 
+#include "html/Arena.hpp"
 #include "html/Node.hpp"
 
 namespace brindle::html {
@@ -15,6 +16,7 @@ protected:
     DataNode(Kind kind, std::string_view text) noexcept : Node(kind), _text(text) {}
     ~DataNode() = default;
 
+    std::uint32_t _room = 0; ///< How many bytes behind the text belong to it; of use for a text that grows.
     std::string_view _text;
 };
 
@@ -24,7 +26,13 @@ public:
     explicit TextNode(std::string_view text) noexcept : DataNode(Kind::text, text) {}
 
     /// `text` must live as long as the document.
-    void setText(std::string_view text) noexcept { _text = text; }
+    void setText(std::string_view text) noexcept {
+        _text = text;
+        _room = 0;
+    }
+
+    /// Puts `more` behind the text. `arena` is the document's. Takes time by `more`, on average.
+    void append(std::string_view more, Arena& arena);
 };
 
 /// A comment: what stands between `<!--` and `-->`.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -15,6 +16,9 @@ namespace brindle::html {
 /// Its own tag is named "#root" and is never written.
 class Document final : public Element {
 public:
+    /// How a page asks to be laid out by its document type (HTML standard, section 13.2.6.4.1).
+    enum class Mode : std::uint8_t { noQuirks, limitedQuirks, quirks };
+
     Document(InputStream source, std::string baseURI);
     Document(const Document&) = delete;
     Document& operator=(const Document&) = delete;
@@ -28,6 +32,10 @@ public:
     OutputSettings& outputSettings() noexcept { return _outputSettings; }
     const OutputSettings& outputSettings() const noexcept { return _outputSettings; }
 
+    /// `noQuirks` under the XML builder.
+    Mode mode() const noexcept { return _mode; }
+    void setMode(Mode mode) noexcept { _mode = mode; }
+
     const InputStream& source() const noexcept { return _source; }
 
     /// Memory that lives as long as the document.
@@ -39,6 +47,7 @@ private:
     InputStream _source;
     const std::string _location;
     OutputSettings _outputSettings;
+    Mode _mode = Mode::noQuirks;
     Arena _arena;
     TagTable _tags;
 };

@@ -35,6 +35,21 @@ void Element::insertBefore(Node* child, Node* next) noexcept {
     (next != nullptr ? next->_previous : _lastChild) = child;
 }
 
+void Element::takeChildrenOf(Element& other) noexcept {
+    Node* const first = other._firstChild;
+    if (first == nullptr) {
+        return;
+    }
+    for (Node* child = first; child != nullptr; child = child->_next) {
+        child->_parent = this;
+    }
+    first->_previous = _lastChild;
+    (_lastChild != nullptr ? _lastChild->_next : _firstChild) = first;
+    _lastChild = other._lastChild;
+    other._firstChild = nullptr;
+    other._lastChild = nullptr;
+}
+
 void Element::removeChild(Node* child) noexcept {
     (child->_previous != nullptr ? child->_previous->_next : _firstChild) = child->_next;
     (child->_next != nullptr ? child->_next->_previous : _lastChild) = child->_previous;

@@ -44,6 +44,9 @@ public:
     /// Puts a node that is in no tree before `next`, a child of this element, or behind the last child where `next` is null.
     void insertBefore(Node* child, Node* next) noexcept;
 
+    /// Puts all children of `other` behind the last child. Takes time by their number.
+    void takeChildrenOf(Element& other) noexcept;
+
     /// Takes a child out of the tree. The node stays with the document's memory.
     void removeChild(Node* child) noexcept;
 

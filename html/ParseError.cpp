@@ -42,6 +42,7 @@ constexpr std::array names = {
     std::string_view("missing-whitespace-between-attributes"),
     std::string_view("missing-whitespace-between-doctype-public-and-system-identifiers"),
     std::string_view("nested-comment"),
+    std::string_view("non-void-html-element-start-tag-with-trailing-solidus"),
     std::string_view("noncharacter-character-reference"),
     std::string_view("noncharacter-in-input-stream"),
     std::string_view("null-character-reference"),

@@ -6,7 +6,8 @@
 
 namespace brindle::html {
 
-/// The parse errors of the HTML standard (section 13.2.2) that arise in the input stream and the tokeniser.
+/// The parse errors that the HTML standard has names for (section 13.2.2). They arise in the input stream and the tokeniser, one of them in
+/// tree construction.
 enum class ParseErrorCode : std::uint8_t {
     abruptClosingOfEmptyComment,
     abruptDoctypePublicIdentifier,
@@ -43,6 +44,7 @@ enum class ParseErrorCode : std::uint8_t {
     missingWhitespaceBetweenAttributes,
     missingWhitespaceBetweenDoctypePublicAndSystemIdentifiers,
     nestedComment,
+    nonVoidHtmlElementStartTagWithTrailingSolidus,
     noncharacterCharacterReference,
     noncharacterInInputStream,
     nullCharacterReference,

@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "html/Document.hpp"
@@ -20,6 +21,9 @@ public:
     /// A parser with an `XmlTreeBuilder` that keeps the case of all names.
     static Parser xmlParser();
 
+    /// A parser with an `HtmlTreeBuilder` that folds all names to lower case.
+    static Parser htmlParser();
+
     const ParseSettings& settings() const noexcept { return _settings; }
     void setSettings(ParseSettings settings) noexcept { _settings = settings; }
 
@@ -34,6 +38,11 @@ public:
     /// Throws `Error` on an internal failure only.
     std::unique_ptr<Document> parse(std::string text, std::string baseURI);
 
+    /// Makes what `text` stands for as the content of an element, by the fragment case of the HTML standard (section 13.4); the nodes are
+    /// the children of the document. `context` is the name of the element, with "svg " or "math " before it for a foreign one.
+    /// Throws `Error` on an internal failure, and for a parser of XML.
+    std::unique_ptr<Document> parseFragment(std::string text, std::string_view context, std::string baseURI = {});
+
 private:
     std::unique_ptr<TreeBuilder> _treeBuilder;
     std::size_t _maxErrors = 0;
@@ -43,5 +52,8 @@ private:
 
 /// Makes the document of `text` with `parser`, as `Parser::parse` does.
 std::unique_ptr<Document> parse(std::string text, std::string baseURI, Parser& parser);
+
+/// Makes the document of `text`, which is UTF-8, by the rules of HTML; the base URI is empty. Throws `Error` on an internal failure only.
+std::unique_ptr<Document> parse(std::string text);
 
 } // namespace brindle::html

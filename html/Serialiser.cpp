@@ -33,8 +33,26 @@ std::size_t expectedSize(const Node& top) noexcept {
 
 /// Whether text of the element is written as it is in HTML (section 13.3 of the standard).
 bool holdsRawText(const Element* element) noexcept {
-    constexpr std::array<std::string_view, 7> names = {"style", "script", "xmp", "iframe", "noembed", "noframes", "plaintext"};
-    return element != nullptr && std::find(names.begin(), names.end(), element->tag().normalName()) != names.end();
+    if (element == nullptr || element->vocabulary() != Element::Vocabulary::html) {
+        return false;
+    }
+    switch (element->tag().id()) {
+    case TagId::style:
+    case TagId::script:
+    case TagId::xmp:
+    case TagId::iframe:
+    case TagId::noembed:
+    case TagId::noframes:
+    case TagId::plaintext:
+        return true;
+    default:
+        return false;
+    }
+}
+
+/// Whether HTML knows no end tag for the element.
+bool isVoid(const Element& element) noexcept {
+    return element.vocabulary() == Element::Vocabulary::html && element.tag().isEmpty();
 }
 
 } // namespace
@@ -99,15 +117,11 @@ void Serialiser::openElement(OutputBuffer& output, const Element& element, std::
     output.put(name);
     writeAttributes(output, element.attributes());
     output.ensureRoom(name.size() + 4);
-    if (element.firstChild() != nullptr || (isXml() && !element.isSelfClosing())) {
-        output.put('>');
-    } else if (isXml()) {
+    if (element.firstChild() == nullptr && isXml() && element.isSelfClosing()) {
         return output.put(" />");
-    } else {
-        output.put('>');
     }
-    const bool isVoid = !isXml() && element.tag().isEmpty();
-    if (element.firstChild() == nullptr && !isVoid) {
+    output.put('>');
+    if (element.firstChild() == nullptr && (isXml() || !isVoid(element))) {
         output.put("</");
         output.put(name);
         output.put('>');

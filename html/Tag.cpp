@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 namespace brindle::html {
 
@@ -14,13 +15,18 @@ constexpr std::uint16_t preserving = Tag::whitespacePreserved;
 constexpr std::uint16_t listed = Tag::formListed;
 constexpr std::uint16_t submitted = Tag::formSubmitted;
 
-constexpr Tag known(std::string_view name, int flags) {
-    return {name, name, static_cast<std::uint16_t>(flags)};
+struct KnownTag {
+    std::string_view name;
+    std::uint16_t flags;
+};
+
+constexpr KnownTag known(std::string_view name, int flags) {
+    return {name, static_cast<std::uint16_t>(flags)};
 }
 
 // Sorted by name. Kept as is: inline elements such as "b" are laid out on lines of their own as well; what is written here is read by
 // a strict reader and not shown, and the feed readers above rely on which elements carry white space around their text.
-constexpr std::array knownTags = {
+constexpr std::array descriptions = {
     known("a", runIn),
     known("abbr", laidOut),
     known("acronym", laidOut),
@@ -49,7 +55,7 @@ constexpr std::array knownTags = {
     known("code", laidOut),
     known("col", laidOut | voided),
     known("colgroup", laidOut),
-    known("command", laidOut | voided),
+    known("command", laidOut),
     known("data", laidOut),
     known("datalist", laidOut),
     known("dd", laidOut),
@@ -132,6 +138,7 @@ constexpr std::array knownTags = {
     known("search", laidOut),
     known("section", laidOut),
     known("select", laidOut | listed | submitted),
+    known("selectedcontent", Tag::unknownFlags),
     known("slot", laidOut),
     known("small", laidOut),
     known("source", laidOut | voided),
@@ -164,17 +171,32 @@ constexpr std::array knownTags = {
     known("xmp", laidOut | preserving),
 };
 
+static_assert(descriptions.size() + 1 == tagIdCount);
+static_assert(
+    std::is_sorted(descriptions.begin(), descriptions.end(), [](const KnownTag& a, const KnownTag& b) { return a.name < b.name; }));
+
+template <std::size_t... indices>
+constexpr auto tagsOf(std::index_sequence<indices...> /*indices*/) {
+    return std::array{
+        Tag(descriptions[indices].name, descriptions[indices].name, descriptions[indices].flags, static_cast<TagId>(indices + 1))...};
+}
+
+/// Sorted by name, as the values of `TagId` are.
+constexpr auto knownTags = tagsOf(std::make_index_sequence<descriptions.size()>());
+
 constexpr bool isBefore(const Tag& tag, std::string_view name) noexcept {
     return tag.name() < name;
 }
-
-static_assert(std::is_sorted(knownTags.begin(), knownTags.end(), [](const Tag& a, const Tag& b) { return a.name() < b.name(); }));
 
 } // namespace
 
 const Tag* Tag::known(std::string_view name) noexcept {
     const auto* const found = std::lower_bound(knownTags.begin(), knownTags.end(), name, isBefore);
     return found != knownTags.end() && found->name() == name ? found : nullptr;
+}
+
+const Tag& Tag::known(TagId id) noexcept {
+    return knownTags[static_cast<std::size_t>(id) - 1];
 }
 
 } // namespace brindle::html

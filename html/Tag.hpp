@@ -3,6 +3,8 @@
 #include <cstdint>
 #include <string_view>
 
+#include "html/TagId.hpp"
+
 namespace brindle::html {
 
 /// What a tag name stands for. Tags are interned: two elements of one document with the same name share one `Tag`,
@@ -26,17 +28,23 @@ public:
     /// The flags of a tag that the toolkit does not know.
     static constexpr std::uint16_t unknownFlags = usualFlags & ~block;
 
-    constexpr Tag(std::string_view name, std::string_view normalName, std::uint16_t flags) noexcept
-        : _name(name), _normalName(normalName), _flags(flags) {}
+    constexpr Tag(std::string_view name, std::string_view normalName, std::uint16_t flags, TagId id = TagId::unknown) noexcept
+        : _name(name), _normalName(normalName), _flags(flags), _id(id) {}
 
     /// The tag of the HTML standard with exactly this name, or null. The known names are in lower case.
     static const Tag* known(std::string_view name) noexcept;
+
+    /// The tag with this identity, which must not be `unknown`.
+    static const Tag& known(TagId id) noexcept;
 
     /// The name as kept under the settings of the parse.
     constexpr std::string_view name() const noexcept { return _name; }
 
     /// The name in ASCII lower case.
     constexpr std::string_view normalName() const noexcept { return _normalName; }
+
+    /// Which known tag it is, whatever the case of its name.
+    constexpr TagId id() const noexcept { return _id; }
 
     constexpr bool isBlock() const noexcept { return has(block); }
 
@@ -64,6 +72,7 @@ private:
     std::string_view _name;
     std::string_view _normalName;
     std::uint16_t _flags;
+    TagId _id;
 };
 
 } // namespace brindle::html

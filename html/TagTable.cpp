@@ -72,8 +72,12 @@ const Tag* TagTable::tagFor(std::string_view name) {
         return known;
     }
     const bool isNormal = std::none_of(name.begin(), name.end(), isAsciiUpper);
-    const std::string_view normalName = isNormal ? name : _arena->copy(asciiLowercased(name));
-    return _arena->make<Tag>(name, normalName, Tag::unknownFlags);
+    if (isNormal) {
+        return _arena->make<Tag>(name, name, Tag::unknownFlags);
+    }
+    const std::string_view normalName = _arena->copy(asciiLowercased(name));
+    const Tag* const known = Tag::known(normalName);
+    return _arena->make<Tag>(name, normalName, Tag::unknownFlags, known != nullptr ? known->id() : TagId::unknown);
 }
 
 void TagTable::grow() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -25,6 +26,9 @@ public:
 
     /// The next token. At the end of the text, and ever after, one of kind `endOfFile`. The token is good until the next call.
     const Token& next();
+
+    /// Where the next token begins: bytes from the start of the text.
+    std::size_t offset() const noexcept { return static_cast<std::size_t>(_at - _begin); }
 
     /// Where the next token is read. An end tag that ends RCDATA, RAWTEXT or script data leads back to `data`.
     void setState(State state) noexcept { _state = state; }

@@ -1,10 +1,12 @@
 #include "html/TreeDump.hpp"
 
 #include <algorithm>
+#include <utility>
 #include <vector>
 
 #include "html/DataNodes.hpp"
-#include "html/Element.hpp"
+#include "html/Document.hpp"
+#include "html/ForeignNames.hpp"
 
 namespace brindle::html {
 
@@ -17,6 +19,12 @@ void startLine(std::string& dump, std::size_t depth) {
     dump.append(2 * std::min(depth, deepestIndentation), ' ');
 }
 
+/// An attribute's name as it is shown: with a blank between the prefix and the local name where it has a namespace.
+std::string shownKey(std::string_view key, Element::Vocabulary vocabulary) {
+    const auto parts = vocabulary != Element::Vocabulary::html ? namespacedKey(key) : std::nullopt;
+    return parts ? std::string(parts->prefix).append(" ").append(parts->localName) : std::string(key);
+}
+
 void dumpElement(std::string& dump, const Element& element, std::size_t depth) {
     dump += '<';
     if (element.vocabulary() == Element::Vocabulary::svg) {
@@ -25,11 +33,14 @@ void dumpElement(std::string& dump, const Element& element, std::size_t depth) {
         dump += "math ";
     }
     dump.append(element.tagName()).append(">\n");
-    std::vector<Attribute> attributes(element.attributes().begin(), element.attributes().end());
-    std::sort(attributes.begin(), attributes.end(), [](const Attribute& a, const Attribute& b) { return a.key < b.key; });
-    for (const Attribute& attribute : attributes) {
+    std::vector<std::pair<std::string, std::string_view>> attributes;
+    for (const Attribute& attribute : element.attributes()) {
+        attributes.emplace_back(shownKey(attribute.key, element.vocabulary()), attribute.value);
+    }
+    std::sort(attributes.begin(), attributes.end());
+    for (const auto& [key, value] : attributes) {
         startLine(dump, depth + 1);
-        dump.append(attribute.key).append("=\"").append(attribute.value).append("\"\n");
+        dump.append(key).append("=\"").append(value).append("\"\n");
     }
 }
 
@@ -74,23 +85,35 @@ void dumpNode(std::string& dump, const Node& node, std::size_t depth) {
     }
 }
 
+/// Whether what is below a node is shown below a line of its own, as the content of a template is.
+bool showsContent(const Node& node) {
+    const Element* const element = node.asElement();
+    return element != nullptr && element->vocabulary() == Element::Vocabulary::html && element->tagName() == "template";
+}
+
 } // namespace
 
 std::string html5libDump(const Node& node) {
     std::string dump;
-    const bool isDocument = node.kind() == Node::Kind::document;
+    const Document* const document = node.ownerDocument();
+    const bool isHtml = document != nullptr && document->outputSettings().syntax() == OutputSettings::Syntax::html;
     std::size_t depth = 0;
-    const Node* at = isDocument ? node.firstChild() : &node;
+    const Node* at = &node == document ? node.firstChild() : &node;
     while (at != nullptr) {
         dumpNode(dump, *at, depth);
+        const bool isContent = isHtml && showsContent(*at);
+        if (isContent) {
+            startLine(dump, depth + 1);
+            dump += "content\n";
+        }
         if (at->firstChild() != nullptr) {
             at = at->firstChild();
-            ++depth;
+            depth += isContent ? 2 : 1;
             continue;
         }
         while (at != nullptr && at != &node && at->nextSibling() == nullptr) {
             at = at->parent();
-            --depth;
+            depth -= isHtml && at != nullptr && showsContent(*at) ? 2 : 1;
         }
         at = at == nullptr || at == &node ? nullptr : at->nextSibling();
     }

@@ -2,8 +2,6 @@
 
 #include <algorithm>
 #include <cstdint>
-#include <memory>
-#include <span>
 #include <vector>
 
 #include "html/AsciiText.hpp"
@@ -91,20 +89,11 @@ private:
     void addElement(const Token& token) {
         TagTable& tags = _document.tags();
         const std::uint32_t tagIndex = tags.intern(token.name);
-        auto* const element = _arena.make<Element>(tags[tagIndex], kept(token.attributes), token.isSelfClosing);
+        auto* const element = _arena.make<Element>(tags[tagIndex], copyOf(token.attributes, _arena), token.isSelfClosing);
         append(element);
         if (!token.isSelfClosing) {
             _open.open(element, tagIndex);
         }
-    }
-
-    Attributes kept(std::span<const Attribute> attributes) {
-        if (attributes.empty()) {
-            return {};
-        }
-        auto* const first = static_cast<Attribute*>(_arena.allocate(attributes.size_bytes(), alignof(Attribute)));
-        std::uninitialized_copy(attributes.begin(), attributes.end(), first);
-        return Attributes({first, attributes.size()});
     }
 
     void addComment(const Token& token) {

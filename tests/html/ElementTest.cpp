@@ -88,4 +88,17 @@ TEST(ElementTest, MovesNodesAbout) {
     EXPECT_EQ(root.lastChild(), first);
 }
 
+TEST(ElementTest, TakesTheChildrenOfAnother) {
+    const auto document = parseXml("<a><b/>x</a><c><d/></c><e/>");
+    document->outputSettings().setPrettyPrint(false);
+    const Elements tops = document->children();
+    tops[1]->takeChildrenOf(*tops[0]);
+    EXPECT_EQ(document->outerHtml(), "<a></a><c><d /><b />x</c><e />");
+    EXPECT_EQ(tops[1]->lastChild()->parent(), tops[1]);
+    tops[2]->takeChildrenOf(*tops[1]);
+    tops[2]->takeChildrenOf(*tops[1]);
+    EXPECT_EQ(document->outerHtml(), "<a></a><c></c><e><d /><b />x</e>");
+    EXPECT_EQ(tops[2]->lastChild()->previousSibling()->previousSibling(), tops[2]->firstChild());
+}
+
 } // namespace brindle::html

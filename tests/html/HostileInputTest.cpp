@@ -1,42 +1,19 @@
-#include <functional>
 #include <gtest/gtest.h>
-#include <limits.h>
-#include <pthread.h>
 #include <string>
 
 #include "html/TreeDump.hpp"
-#include "tests/html/Support.hpp"
+#include "tests/html/HostileSupport.hpp"
 
 // Inputs of a mebibyte that are made to be costly. What would take quadratic time does not come to an end under the runner's limit.
 
 namespace brindle::html {
 
+using testing::flood;
 using testing::parseXml;
 using testing::repeated;
+using testing::runOnSmallStack;
 
 namespace {
-
-constexpr std::size_t mebibyte = std::size_t{1} << 20;
-
-/// As much of `piece` as makes a mebibyte.
-std::string flood(std::string_view piece) {
-    return repeated(piece, mebibyte / piece.size());
-}
-
-/// Runs `work` on a thread with a stack of 512 KiB.
-void runOnSmallStack(const std::function<void()>& work) {
-    pthread_attr_t attributes;
-    ASSERT_EQ(pthread_attr_init(&attributes), 0);
-    ASSERT_EQ(pthread_attr_setstacksize(&attributes, 512 * 1024), 0);
-    pthread_t thread{};
-    const auto start = [](void* argument) -> void* {
-        (*static_cast<const std::function<void()>*>(argument))();
-        return nullptr;
-    };
-    ASSERT_EQ(pthread_create(&thread, &attributes, start, const_cast<std::function<void()>*>(&work)), 0);
-    ASSERT_EQ(pthread_join(thread, nullptr), 0);
-    pthread_attr_destroy(&attributes);
-}
 
 class HostileInputTest : public ::testing::TestWithParam<const char*> {};
 

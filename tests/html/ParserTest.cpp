@@ -20,6 +20,28 @@ TEST(ParserTest, FoldsNamesUnderSettingsThatSaySo) {
     EXPECT_EQ(document->children()[0]->attr("rel"), "A");
 }
 
+TEST(ParserTest, FoldsNamesUnderTheHtmlParser) {
+    Parser parser = Parser::htmlParser();
+    EXPECT_FALSE(parser.settings().preserveTagCase);
+    EXPECT_FALSE(parser.settings().preserveAttributeCase);
+    EXPECT_EQ(parse("<LiNK ReL=A>", "", parser)->getElementsByTag("link")[0]->attr("rel"), "A");
+}
+
+TEST(ParserTest, ReadsHtmlWithoutABaseUriWhereNoParserIsNamed) {
+    const auto document = parse("<LiNK href=a>");
+    EXPECT_EQ(document->location(), "");
+    EXPECT_EQ(document->getElementsByTag("head")[0]->children()[0]->tagName(), "link");
+}
+
+TEST(ParserTest, KeepsTheErrorsOfAFragment) {
+    Parser parser = Parser::htmlParser();
+    parser.setMaxErrors(1);
+    parser.parseFragment("x\n<a b b><", "p");
+    ASSERT_EQ(parser.errors().size(), 1U);
+    EXPECT_EQ(parser.errors()[0].name(), "duplicate-attribute");
+    EXPECT_EQ(parser.errors()[0].line, 2U);
+}
+
 TEST(ParserTest, KeepsTheBaseUri) {
     Parser parser = Parser::xmlParser();
     EXPECT_EQ(parse("<a/>", "http://example.org/", parser)->location(), "http://example.org/");

@@ -68,6 +68,16 @@ TEST(TagTest, DoesNotKnowANameInAnotherCase) {
     EXPECT_TRUE(firstElement(*document).tag().formatAsBlock());
 }
 
+TEST(TagTest, HasTheIdentityOfItsNameInAnyCase) {
+    EXPECT_EQ(Tag::known("a")->id(), TagId::a);
+    EXPECT_EQ(Tag::known("template")->id(), TagId::templateElement);
+    EXPECT_EQ(Tag::known("xmp")->id(), TagId::xmp);
+    EXPECT_EQ(&Tag::known(TagId::selectedcontent), Tag::known("selectedcontent"));
+    const auto document = parseXml("<Title><guid/></Title>");
+    EXPECT_EQ(firstElement(*document).tag().id(), TagId::title);
+    EXPECT_EQ(static_cast<const Element*>(firstElement(*document).firstChild())->tag().id(), TagId::unknown);
+}
+
 TEST(TagTest, IsSharedByElementsOfOneName) {
     const auto document = parseXml("<guid><guid/></guid>");
     EXPECT_EQ(&firstElement(*document).tag(), &static_cast<const Element*>(firstElement(*document).firstChild())->tag());
