@@ -43,10 +43,28 @@ TEST_F(DocumentCommandsTest, TreePrintsOneLineForEachNodeAlsoWithJSON) {
     EXPECT_EQ(run({"--json", "tree", "--format", "html5lib", document}).output, expected);
 }
 
+TEST_F(DocumentCommandsTest, TreeBuildsByTheRulesOfHTML) {
+    const std::string document = file("a.html", "<!DOCTYPE html><TITLE>t</TITLE><p>x<p>y<br>");
+    EXPECT_EQ(run({"tree", "--html", "--format", "html5lib", document}).output,
+        "| <!DOCTYPE html>\n| <html>\n|   <head>\n|     <title>\n|       \"t\"\n|   <body>\n|     <p>\n|       \"x\"\n|     <p>\n"
+        "|       \"y\"\n|       <br>\n");
+    EXPECT_EQ(run({"tree", "--html", document}).output, "<!DOCTYPE html>\n<html>\n <head>\n  <title>t</title>\n </head>\n <body>\n  "
+                                                        "<p>x</p>\n  <p>y\n   <br></p>\n </body>\n</html>\n");
+}
+
+TEST_F(DocumentCommandsTest, TreeBuildsTheContentOfAnElementOfHTML) {
+    const std::string document = file("a.html", "<td>x<g/>");
+    const auto dump = [&](const std::string& context) {
+        return run({"tree", "--html", "--fragment", context, "--format", "html5lib", document}).output;
+    };
+    EXPECT_EQ(dump("div"), "| \"x\"\n| <g>\n");
+    EXPECT_EQ(dump("tr"), "| <td>\n|   \"x\"\n|   <g>\n");
+    EXPECT_EQ(dump("svg path"), "| <svg td>\n|   \"x\"\n|   <svg g>\n");
+}
+
 TEST_F(DocumentCommandsTest, TreeRefusesWhatItCannotBuild) {
     const std::string document = file("a.xml", "<a/>");
-    expectError({"tree", "--html", document}, 2, "--html is not supported");
-    expectError({"tree", "--fragment", "div", document}, 2, "--fragment is not supported");
+    expectError({"tree", "--fragment", "div", document}, 2, "--fragment needs --html");
     expectError({"tree", "--format", "text", document}, 2, "--format takes markup or html5lib");
 }
 
@@ -79,6 +97,15 @@ TEST_F(DocumentCommandsTest, DiscoverListsTheFeedsOfAPageInItsOrder) {
   }
 ]
 )");
+}
+
+TEST_F(DocumentCommandsTest, DiscoverGivesALinkThatIsNoneNoURL) {
+    input = R"(<html><link rel="alternate" type="application/rss+xml" title="All" href="a b"/></html>)";
+    const auto feeds = runJSON({"discover", "-"});
+    ASSERT_EQ(feeds.size(), 1U);
+    EXPECT_EQ(feeds[0]["title"], "All");
+    ASSERT_TRUE(feeds[0]["link"].is_object());
+    EXPECT_TRUE(feeds[0]["link"]["url"].is_null());
 }
 
 TEST_F(DocumentCommandsTest, DiscoverFindsNothingInAnEmptyPage) {
