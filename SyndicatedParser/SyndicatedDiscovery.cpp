@@ -1,12 +1,17 @@
 #include "SyndicatedParser/SyndicatedDiscovery.hpp"
 
+#include "SyndicatedParser/IconLinks.hpp"
 #include "SyndicatedParser/Normalisation.hpp"
 #include "foundation/Console.hpp"
 #include "foundation/DispatchQueue.hpp"
+#include "foundation/StringEncoding.hpp"
 #include "foundation/Text.hpp"
+#include "foundation/URLFetch.hpp"
 #include "html/Error.hpp"
 #include "html/Parser.hpp"
 
+#include <chrono>
+#include <cstddef>
 #include <utility>
 
 namespace brindle {
@@ -70,6 +75,53 @@ std::optional<Feeds> announcedFeeds(std::string page, const Clock& clock) {
     }
 }
 
+constexpr std::chrono::milliseconds iconTimeout{60'000};
+constexpr std::size_t maximumIconBody = 1 << 24; ///< no icon and no page that links one is larger in good faith
+
+bool isReadable(const URLFetch::Answer& answer) {
+    return answer.statusCode >= 200 && answer.statusCode < 300;
+}
+
+/// The page's text; absent, with a line on the console where one is due, when there is none.
+std::optional<std::string> pageOf(tl::expected<URLFetch::Answer, URLError> answer) {
+    const auto refuse = [](std::string_view line) {
+        Console::print(line);
+        return std::nullopt;
+    };
+    if (!answer)
+        return refuse("Could not fetch feed icon because an error occured: " + answer.error().description);
+    if (!isReadable(*answer))
+        return refuse("Could not fetch icon data because the status code was not in the range of 2xx");
+    if (answer->body.empty())
+        return refuse("Could not fetch icon data because the HTML data was empty");
+    if (!isValidUTF8(answer->body))
+        return std::nullopt;
+    return std::move(answer->body);
+}
+
+/// Tries icon links one after another. Thread: main.
+class IconLadder : public std::enable_shared_from_this<IconLadder> {
+public:
+    IconLadder(std::vector<URL> links, SyndicatedDiscovery::IconCompletion completion)
+        : _links(std::move(links)), _completion(std::move(completion)) {}
+
+    void tryNext() {
+        if (_next == _links.size())
+            return _completion(std::nullopt);
+        SyndicatedDiscovery::readIcon(_links[_next++], [self = shared_from_this()](std::optional<std::string> bytes) {
+            if (bytes)
+                self->_completion(std::move(bytes));
+            else
+                self->tryNext();
+        });
+    }
+
+private:
+    const std::vector<URL> _links;
+    std::size_t _next = 0;
+    const SyndicatedDiscovery::IconCompletion _completion;
+};
+
 } // namespace
 
 void SyndicatedDiscovery::discoverFeeds(std::string page, std::shared_ptr<const Clock> clock, std::function<void(Feeds feeds)> completion) {
@@ -83,6 +135,29 @@ void SyndicatedDiscovery::discoverFeeds(std::string page, std::shared_ptr<const 
         DispatchQueue::main().async(
             [completion = std::move(completion), feeds = std::move(*feeds)]() mutable { completion(std::move(feeds)); });
     });
+}
+
+void SyndicatedDiscovery::discoverIcon(const URL& root, IconCompletion completion) {
+    DispatchQueue::main().async([root, completion = std::move(completion)]() mutable {
+        URLFetch::begin(root, iconTimeout, maximumIconBody,
+            [root, completion = std::move(completion)](tl::expected<URLFetch::Answer, URLError> answer) mutable {
+                std::optional<std::string> page = pageOf(std::move(answer));
+                if (!page)
+                    return completion(std::nullopt);
+                // Pages are large: they are read off the main thread.
+                DispatchQueue("icon_discovery_from_url_queue").async([root, page = std::move(*page), completion]() mutable {
+                    const auto ladder = std::make_shared<IconLadder>(iconLinks(std::move(page), root), std::move(completion));
+                    DispatchQueue::main().async([ladder] { ladder->tryNext(); });
+                });
+            });
+    });
+}
+
+void SyndicatedDiscovery::readIcon(const URL& url, IconCompletion completion) {
+    URLFetch::begin(
+        url, iconTimeout, maximumIconBody, [completion = std::move(completion)](tl::expected<URLFetch::Answer, URLError> answer) {
+            completion(answer && isReadable(*answer) ? std::optional(std::move(answer->body)) : std::nullopt);
+        });
 }
 
 } // namespace brindle
