@@ -141,7 +141,7 @@ CommandResult run(const CommandContext& context) {
     const auto numbers = picks(context.arguments);
     if (!rate || !numbers)
         return tl::unexpected(rate ? numbers.error() : rate.error());
-    const auto opened = Library::open(context.settings, Library::Purpose::writing, Library::Network::defaultRoute);
+    const auto opened = Library::open(context.settings, Library::Purpose::writing, Library::network(context.arguments));
     if (!opened)
         return tl::unexpected(opened.error());
     Library& library = **opened;

@@ -2,6 +2,7 @@
 
 #include "Brindle/library/FeedGroup.hpp"
 #include "Brindle/library/LibraryArchive.hpp"
+#include "SyndicatedParser/SiteIconDiscovery.hpp"
 #include "cli/GatedRoute.hpp"
 #include "foundation/FileManager.hpp"
 #include "foundation/Text.hpp"
@@ -57,6 +58,10 @@ std::optional<std::vector<std::size_t>> placesOf(std::string_view name) {
 
 } // namespace
 
+Library::Network Library::network(const Arguments& arguments) {
+    return arguments.has("no-icons") ? Network::feeds : Network::feedsAndIcons;
+}
+
 tl::expected<std::unique_ptr<Library>, CommandError> Library::open(const Settings& settings, Purpose purpose, Network network) {
     const auto folder = supportFolder(settings);
     if (!folder)
@@ -72,7 +77,8 @@ tl::expected<std::unique_ptr<Library>, CommandError> Library::open(const Setting
         lock = *std::move(taken);
     }
     const auto route = std::make_shared<GatedRoute>(network == Network::none ? absentNetworkRoute() : defaultNetworkRoute());
-    const SyndicatedSessionEnvironment environment = {settings.clock, route, nullptr};
+    const auto icons = network == Network::feedsAndIcons ? std::make_shared<SiteIconDiscovery>() : nullptr;
+    const SyndicatedSessionEnvironment environment = {settings.clock, route, icons};
     std::unique_ptr<Library> library(new Library(*folder, std::move(lock), environment));
     if (writes)
         library->_manager->createSupportDirectories();

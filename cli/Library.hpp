@@ -2,6 +2,7 @@
 
 #include "Brindle/library/FeedItem.hpp"
 #include "Brindle/library/FeedsManager.hpp"
+#include "cli/ArgumentParser.hpp"
 #include "cli/CommandResult.hpp"
 #include "cli/FeedAnswers.hpp"
 #include "cli/Settings.hpp"
@@ -23,7 +24,10 @@ namespace brindle {
 class Library {
 public:
     enum class Purpose { reading, writing };
-    enum class Network { none, defaultRoute };
+    enum class Network { none, feeds, feedsAndIcons };
+
+    /// What a command that fetches may look for, by its option `--no-icons`.
+    static Network network(const Arguments& arguments);
 
     /// Loads the library. For writing the folder is made where it is missing and locked until this object ends; a lock that is held by
     /// someone else, and a library file that can't be read, are errors, and nothing is touched.

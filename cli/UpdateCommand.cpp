@@ -80,7 +80,7 @@ CommandResult run(const CommandContext& context) {
     const auto timeout = context.arguments.number("timeout", 1, longestTimeout, defaultTimeout);
     if (!timeout)
         return tl::unexpected(timeout.error());
-    const auto opened = Library::open(context.settings, Library::Purpose::writing, Library::Network::defaultRoute);
+    const auto opened = Library::open(context.settings, Library::Purpose::writing, Library::network(context.arguments));
     if (!opened)
         return tl::unexpected(opened.error());
     Library& library = **opened;
