@@ -33,8 +33,8 @@ TEST(IconLinksTest, ResolvesAddressesAgainstTheRoot) {
 }
 
 TEST(IconLinksTest, PassesOverLinksWithoutAnAddress) {
-    EXPECT_EQ(links("<link rel=icon><link rel=icon href=''><link rel=icon href='a b'><link rel=icon href=/i>"),
-        Addresses{"http://site.test/i"});
+    EXPECT_EQ(
+        links("<link rel=icon><link rel=icon href=''><link rel=icon href='a b'><link rel=icon href=/i>"), Addresses{"http://site.test/i"});
 }
 
 TEST(IconLinksTest, FindsNothingInAPageWithoutLinks) {

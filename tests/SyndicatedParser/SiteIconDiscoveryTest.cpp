@@ -50,7 +50,8 @@ TEST_F(SiteIconDiscoveryTest, TakesTheFirstIconLinkThatCanBeRead) {
 }
 
 TEST_F(SiteIconDiscoveryTest, TriesTheNextLinkWhereOneCannotBeRead) {
-    servePage("<link rel=icon href=/gone.png><link rel=icon href=/dropped.png><link rel=icon href=data:image/png,x><link rel=icon href=/2.png>");
+    servePage(
+        "<link rel=icon href=/gone.png><link rel=icon href=/dropped.png><link rel=icon href=data:image/png,x><link rel=icon href=/2.png>");
     HTTPServer::Response dropped;
     dropped.fault = HTTPServer::Response::Fault::drop;
     server.route("/dropped.png", dropped);
@@ -124,8 +125,8 @@ TEST_F(SiteIconDiscoveryTest, TellsWhyTheRootPageDidNotCome) {
     server.route("/", dropped);
     serve("/favicon.ico", "favicon");
     EXPECT_EQ(icon(), "favicon");
-    EXPECT_EQ(console.lines,
-        Lines{"Could not fetch feed icon because an error occured: The server closed the connection without an answer."});
+    EXPECT_EQ(
+        console.lines, Lines{"Could not fetch feed icon because an error occured: The server closed the connection without an answer."});
 }
 
 TEST_F(SiteIconDiscoveryTest, LooksForNoLinksInAPageThatIsNotUTF8) {
