@@ -8,6 +8,7 @@
 #include <future>
 #include <mutex>
 #include <thread>
+#include <utility>
 
 namespace brindle {
 
@@ -16,7 +17,7 @@ struct DispatchQueue::State {
     bool isMain = false;
     std::mutex mutex;
     std::deque<Block> blocks;
-    bool isScheduled = false; ///< in the pool's line, or at work
+    bool isScheduled = false; ///< in the pool's line, or at work on some thread
 };
 
 namespace {
@@ -74,6 +75,10 @@ void DispatchQueue::runNext(const std::shared_ptr<State>& state) {
         lock.unlock();
         block();
     }
+    goOn(state);
+}
+
+void DispatchQueue::goOn(const std::shared_ptr<State>& state) {
     const std::lock_guard lock(state->mutex);
     state->isScheduled = !state->blocks.empty();
     if (state->isScheduled)
@@ -107,12 +112,22 @@ void DispatchQueue::async(Block block) const {
 }
 
 void DispatchQueue::sync(const Block& block) const {
+    if (!_state->isMain && takeOver()) {
+        block();
+        return goOn(_state);
+    }
     std::promise<void> done;
     async([&] {
         block();
         done.set_value();
     });
     done.get_future().wait();
+}
+
+/// Where nothing is on the queue it is the caller's for one block, and no other thread has to be woken for that.
+bool DispatchQueue::takeOver() const {
+    const std::lock_guard lock(_state->mutex);
+    return !std::exchange(_state->isScheduled, true);
 }
 
 const std::string& DispatchQueue::label() const {

@@ -3,6 +3,7 @@
 #include "foundation/RunLoop.hpp"
 #include "tests/support/MainLoop.hpp"
 
+#include <algorithm>
 #include <atomic>
 #include <future>
 #include <gtest/gtest.h>
@@ -55,6 +56,27 @@ TEST(DispatchQueueTest, RunsMainBlocksOnTheMainThread) {
     });
     EXPECT_TRUE(runMainLoop([&] { return ran; }));
     EXPECT_TRUE(isMain);
+}
+
+TEST(DispatchQueueTest, WaitsForABlockBehindThoseThatWerePosted) {
+    const DispatchQueue queue("test");
+    std::vector<int> order;
+    for (int i = 0; i < 100; ++i)
+        queue.async([&order, i] { order.push_back(i); });
+    queue.sync([&order] { order.push_back(100); });
+    ASSERT_EQ(order.size(), 101U);
+    EXPECT_TRUE(std::is_sorted(order.begin(), order.end()));
+}
+
+TEST(DispatchQueueTest, LetsBlocksThatArePostedMeanwhileWaitForTheOneThatIsWaitedFor) {
+    const DispatchQueue queue("test");
+    std::vector<int> order;
+    queue.sync([&] {
+        queue.async([&order] { order.push_back(2); });
+        order.push_back(1);
+    });
+    queue.sync([&order] { order.push_back(3); });
+    EXPECT_EQ(order, (std::vector{1, 2, 3}));
 }
 
 TEST(DispatchQueueTest, KeepsItsLabel) {
