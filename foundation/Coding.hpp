@@ -1,5 +1,8 @@
 #pragma once
 
+#include "foundation/Object.hpp"
+#include "foundation/PropertyList.hpp"
+
 #include <cstdint>
 #include <memory>
 #include <optional>
@@ -14,9 +17,8 @@ class Coder;
 
 /// An object with an archive form. `archiveClasses` names its class and the bases of it, most derived first, without the platform's root
 /// class.
-class Coding {
+class Coding : public Object {
 public:
-    virtual ~Coding() = default;
     virtual std::vector<std::string_view> archiveClasses() const = 0;
     virtual void encode(Coder& coder) const = 0;
 };
@@ -31,6 +33,7 @@ public:
     virtual ~Coder() = default;
     virtual void encode(std::string_view key, std::string_view text) = 0;
     virtual void encode(std::string_view key, std::int64_t integer) = 0;
+    virtual void encode(std::string_view key, const PropertyList::Data& data) = 0;
     virtual void encode(std::string_view key, std::shared_ptr<const Coding> object) = 0;
     virtual void encode(std::string_view key, const std::vector<std::shared_ptr<const Coding>>& array) = 0;
     virtual void encode(std::string_view key, const std::vector<CodedDictionary>& array) = 0;
@@ -43,6 +46,8 @@ public:
     virtual std::optional<std::string> decodeText(std::string_view key) const = 0;
     /// An integer, inline or a number object.
     virtual std::optional<std::int64_t> decodeInteger(std::string_view key) const = 0;
+    /// Bytes, inline or a data object.
+    virtual std::optional<std::string> decodeData(std::string_view key) const = 0;
     /// Absent (null) also when the object could not be decoded, or stands above this one in the archive.
     virtual std::shared_ptr<Coding> decodeObject(std::string_view key) const = 0;
     /// The elements of an array that are decoded objects, in order; absent when the value is no array.

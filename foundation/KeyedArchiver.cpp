@@ -16,7 +16,8 @@ public:
         _list.root = _list.add(PropertyList::Dictionary());
     }
 
-    std::string write(const std::shared_ptr<const Coding>& root);
+    /// The bytes of the archive whose root is what `root` refers to.
+    std::string write(Index root);
 
     /// The reference to a text, number or object, which joins the archive when it is new there.
     Index reference(std::string_view text);
@@ -24,11 +25,13 @@ public:
     Index reference(const std::shared_ptr<const Coding>& object);
 
     /// The reference to a fresh array or dictionary.
+    Index arrayReference(const std::vector<std::shared_ptr<const Coding>>& objects);
     Index arrayReference(PropertyList::Array references);
     Index dictionaryReference(const CodedDictionary& dictionary);
 
-    /// The object in the list for an integer that stands where it is used.
+    /// The object in the list for an integer, or for bytes, that stands where it is used.
     Index inlineInteger(std::int64_t integer) { return _list.add(integer); }
+    Index inlineData(const PropertyList::Data& data) { return _list.add(data); }
 
     void set(PropertyList::Dictionary& fields, std::string_view key, Index value) { fields.emplace_back(keyText(key), value); }
 
@@ -61,14 +64,11 @@ public:
 
     void encode(std::string_view key, std::string_view text) override { set(key, _archive.reference(text)); }
     void encode(std::string_view key, std::int64_t integer) override { set(key, _archive.inlineInteger(integer)); }
+    void encode(std::string_view key, const PropertyList::Data& data) override { set(key, _archive.inlineData(data)); }
     void encode(std::string_view key, std::shared_ptr<const Coding> object) override { set(key, _archive.reference(object)); }
 
     void encode(std::string_view key, const std::vector<std::shared_ptr<const Coding>>& array) override {
-        PropertyList::Array references;
-        references.reserve(array.size());
-        for (const std::shared_ptr<const Coding>& object : array)
-            references.push_back(_archive.reference(object));
-        set(key, _archive.arrayReference(std::move(references)));
+        set(key, _archive.arrayReference(array));
     }
 
     void encode(std::string_view key, const std::vector<CodedDictionary>& array) override {
@@ -87,9 +87,9 @@ private:
     Archive& _archive;
 };
 
-std::string Archive::write(const std::shared_ptr<const Coding>& root) {
+std::string Archive::write(Index root) {
     PropertyList::Dictionary top;
-    set(top, "root", reference(root));
+    set(top, "root", root);
     for (std::size_t next = 0; next < _reached.size(); ++next) {
         const std::shared_ptr<const Coding> object = _reached[next];
         FieldCoder coder(*this);
@@ -130,6 +130,14 @@ Index Archive::reference(const std::shared_ptr<const Coding>& object) {
         _reachedNumbers.push_back(entry->second);
     }
     return uid(entry->second);
+}
+
+Index Archive::arrayReference(const std::vector<std::shared_ptr<const Coding>>& objects) {
+    PropertyList::Array references;
+    references.reserve(objects.size());
+    for (const std::shared_ptr<const Coding>& object : objects)
+        references.push_back(reference(object));
+    return arrayReference(std::move(references));
 }
 
 Index Archive::arrayReference(PropertyList::Array references) {
@@ -182,7 +190,13 @@ Index Archive::classReference(const std::vector<std::string_view>& classes) {
 tl::expected<std::string, PropertyList::Error> KeyedArchiver::archivedData(const std::shared_ptr<const Coding>& root) {
     if (root == nullptr)
         return tl::unexpected(PropertyList::Error{"There is no object to archive"});
-    return Archive().write(root);
+    Archive archive;
+    return archive.write(archive.reference(root));
+}
+
+tl::expected<std::string, PropertyList::Error> KeyedArchiver::archivedData(const std::vector<std::shared_ptr<const Coding>>& root) {
+    Archive archive;
+    return archive.write(archive.arrayReference(root));
 }
 
 } // namespace brindle

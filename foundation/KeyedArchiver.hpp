@@ -6,6 +6,7 @@
 #include <memory>
 #include <string>
 #include <tl/expected.hpp>
+#include <vector>
 
 namespace brindle {
 
@@ -15,6 +16,8 @@ namespace brindle {
 class KeyedArchiver {
 public:
     static tl::expected<std::string, PropertyList::Error> archivedData(const std::shared_ptr<const Coding>& root);
+    /// With an array as root object.
+    static tl::expected<std::string, PropertyList::Error> archivedData(const std::vector<std::shared_ptr<const Coding>>& root);
 };
 
 } // namespace brindle

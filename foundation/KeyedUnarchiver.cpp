@@ -9,6 +9,7 @@ namespace {
 
 using Index = PropertyList::Index;
 using Error = PropertyList::Error;
+using Factories = std::map<std::string, KeyedUnarchiver::Factory, std::less<>>;
 
 enum class InstanceKind { text, array, dictionary };
 
@@ -27,15 +28,9 @@ std::optional<InstanceKind> containerKind(std::string_view className) {
 /// An archive's objects and what has been made of them so far, by their places in "$objects".
 class Archive {
 public:
-    explicit Archive(PropertyList list) : _list(std::move(list)) {}
+    /// Reads the archive's objects, and gives the reference to its root, which leads to a place.
+    tl::expected<Index, Error> open(std::string_view bytes);
 
-    /// Finds "$objects"; false when this is no keyed archive.
-    bool open();
-
-    /// The place that "$top" names as the root.
-    std::optional<std::size_t> rootPlace() const;
-
-    std::size_t size() const { return _objects->size(); }
     Index object(std::size_t place) const { return (*_objects)[place]; }
     const PropertyList& list() const { return _list; }
 
@@ -50,9 +45,16 @@ public:
 
     std::optional<std::string> text(Index value) const;
     std::optional<std::int64_t> integer(Index value) const;
+    std::optional<std::string> data(Index value) const;
 
     /// The references under a key of the container instance that `value` leads to.
     const PropertyList::Array* elements(Index value, InstanceKind kind, std::string_view key) const;
+
+    /// What was made of the object that `value` leads to; null where that is none.
+    std::shared_ptr<Coding> objectAt(Index value) const {
+        const std::optional<std::size_t> found = place(value);
+        return found ? made[*found] : nullptr;
+    }
 
     std::vector<std::shared_ptr<Coding>> made;
 
@@ -61,19 +63,21 @@ private:
     const PropertyList::Array* _objects = nullptr;
 };
 
-bool Archive::open() {
+tl::expected<Index, Error> Archive::open(std::string_view bytes) {
+    tl::expected<PropertyList, Error> list = PropertyList::read(bytes);
+    if (!list)
+        return tl::unexpected(list.error());
+    _list = *std::move(list);
     const std::optional<Index> objects = _list.value(_list.root, "$objects");
     _objects = objects ? _list.get<PropertyList::Array>(*objects) : nullptr;
     if (_objects == nullptr)
-        return false;
+        return tl::unexpected(Error{"Not a keyed archive"});
     made.resize(_objects->size());
-    return true;
-}
-
-std::optional<std::size_t> Archive::rootPlace() const {
     const std::optional<Index> top = _list.value(_list.root, "$top");
     const std::optional<Index> root = top ? _list.value(*top, "root") : std::nullopt;
-    return root ? place(*root) : std::nullopt;
+    if (!root || !place(*root))
+        return tl::unexpected(Error{"A keyed archive without a root object"});
+    return *root;
 }
 
 std::optional<std::size_t> Archive::place(Index reference) const {
@@ -126,6 +130,12 @@ std::optional<std::int64_t> Archive::integer(Index value) const {
     return _list.integer(found ? this->object(*found) : value);
 }
 
+std::optional<std::string> Archive::data(Index value) const {
+    const std::optional<std::size_t> found = place(value);
+    const auto* const data = _list.get<PropertyList::Data>(found ? this->object(*found) : value);
+    return data == nullptr ? std::nullopt : std::optional(data->bytes);
+}
+
 const PropertyList::Array* Archive::elements(Index value, InstanceKind kind, std::string_view key) const {
     const std::optional<std::size_t> found = place(value);
     if (!found || containerKind(className(*found).value_or("")) != kind)
@@ -149,9 +159,14 @@ public:
         return value ? _archive.integer(*value) : std::nullopt;
     }
 
+    std::optional<std::string> decodeData(std::string_view key) const override {
+        const std::optional<Index> value = field(key);
+        return value ? _archive.data(*value) : std::nullopt;
+    }
+
     std::shared_ptr<Coding> decodeObject(std::string_view key) const override {
         const std::optional<Index> value = field(key);
-        return value ? objectAt(*value) : nullptr;
+        return value ? _archive.objectAt(*value) : nullptr;
     }
 
     std::optional<std::vector<std::shared_ptr<Coding>>> decodeObjects(std::string_view key) const override {
@@ -160,7 +175,7 @@ public:
             return std::nullopt;
         std::vector<std::shared_ptr<Coding>> objects;
         for (const Index element : *elements) {
-            if (std::shared_ptr<Coding> object = objectAt(element))
+            if (std::shared_ptr<Coding> object = _archive.objectAt(element))
                 objects.push_back(std::move(object));
         }
         return objects;
@@ -186,11 +201,6 @@ private:
     const PropertyList::Array* array(std::string_view key) const {
         const std::optional<Index> value = field(key);
         return value ? _archive.elements(*value, InstanceKind::array, "NS.objects") : nullptr;
-    }
-
-    std::shared_ptr<Coding> objectAt(Index value) const {
-        const std::optional<std::size_t> place = _archive.place(value);
-        return place ? _archive.made[*place] : nullptr;
     }
 
     CodedDictionary dictionary(const PropertyList::Array& keys, const PropertyList::Array& values) const {
@@ -219,7 +229,7 @@ std::vector<std::size_t> childrenFirst(const Archive& archive, std::size_t root)
         std::size_t next = 0;
     };
     std::vector<std::size_t> order;
-    std::vector<bool> reached(archive.size(), false);
+    std::vector<bool> reached(archive.made.size(), false);
     std::vector<Visit> visits;
     const auto visit = [&](std::size_t place) {
         reached[place] = true;
@@ -240,6 +250,24 @@ std::vector<std::size_t> childrenFirst(const Archive& archive, std::size_t root)
     return order;
 }
 
+/// Makes all that the root leads to, and gives the reference to the root; an error where a class is not to stand there.
+tl::expected<Index, Error> makeObjects(Archive& archive, std::string_view bytes, const Factories& factories, bool allowsDictionaries) {
+    const auto root = archive.open(bytes);
+    if (!root)
+        return root;
+    for (const std::size_t place : childrenFirst(archive, archive.place(*root).value())) {
+        const std::optional<std::string_view> className = archive.className(place);
+        const std::optional<InstanceKind> container = className ? containerKind(*className) : std::nullopt;
+        if (!className || (container && (container != InstanceKind::dictionary || allowsDictionaries)))
+            continue;
+        const auto factory = factories.find(*className);
+        if (factory == factories.end())
+            return tl::unexpected(Error{"The archive holds an object of the unexpected class \"" + std::string(*className) + "\""});
+        archive.made[place] = factory->second(FieldDecoder(archive, archive.object(place)));
+    }
+    return root;
+}
+
 } // namespace
 
 void KeyedUnarchiver::setClass(std::string className, Factory factory) {
@@ -247,28 +275,25 @@ void KeyedUnarchiver::setClass(std::string className, Factory factory) {
 }
 
 tl::expected<std::shared_ptr<Coding>, Error> KeyedUnarchiver::unarchive(std::string_view bytes) const {
-    tl::expected<PropertyList, Error> list = PropertyList::read(bytes);
-    if (!list)
-        return tl::unexpected(list.error());
-    Archive archive(*std::move(list));
-    if (!archive.open())
-        return tl::unexpected(Error{"Not a keyed archive"});
-    const std::optional<std::size_t> root = archive.rootPlace();
-    if (!root)
-        return tl::unexpected(Error{"A keyed archive without a root object"});
+    Archive archive;
+    return makeObjects(archive, bytes, _factories, _allowsDictionaries).map([&](Index root) { return archive.objectAt(root); });
+}
 
-    for (const std::size_t place : childrenFirst(archive, *root)) {
-        const std::optional<std::string_view> className = archive.className(place);
-        const std::optional<InstanceKind> container = className ? containerKind(*className) : std::nullopt;
-        if (!className || (container && (container != InstanceKind::dictionary || _allowsDictionaries)))
-            continue;
-        const auto factory = _factories.find(*className);
-        if (factory == _factories.end())
-            return tl::unexpected(
-                Error{"The archive holds an object of the class \"" + std::string(*className) + "\", which is not expected"});
-        archive.made[place] = factory->second(FieldDecoder(archive, archive.object(place)));
+tl::expected<std::optional<std::vector<std::shared_ptr<Coding>>>, Error> KeyedUnarchiver::unarchiveArray(std::string_view bytes) const {
+    Archive archive;
+    const auto root = makeObjects(archive, bytes, _factories, _allowsDictionaries);
+    if (!root)
+        return tl::unexpected(root.error());
+    const PropertyList::Array* const elements = archive.elements(*root, InstanceKind::array, "NS.objects");
+    if (elements == nullptr)
+        return std::nullopt;
+    std::vector<std::shared_ptr<Coding>> objects;
+    for (const Index element : *elements) {
+        objects.push_back(archive.objectAt(element));
+        if (objects.back() == nullptr)
+            return std::nullopt;
     }
-    return archive.made[*root];
+    return objects;
 }
 
 } // namespace brindle

@@ -6,9 +6,11 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <tl/expected.hpp>
+#include <vector>
 
 namespace brindle {
 
@@ -27,6 +29,9 @@ public:
 
     /// The root object; null when it could not be made or is no object of a registered class.
     tl::expected<std::shared_ptr<Coding>, PropertyList::Error> unarchive(std::string_view bytes) const;
+
+    /// The elements of a root array, in order; absent when the root is no array, or any element of it was not made.
+    tl::expected<std::optional<std::vector<std::shared_ptr<Coding>>>, PropertyList::Error> unarchiveArray(std::string_view bytes) const;
 
 private:
     std::map<std::string, Factory, std::less<>> _factories;

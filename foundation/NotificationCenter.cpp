@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <map>
 #include <mutex>
+#include <utility>
 #include <vector>
 
 namespace brindle {
@@ -65,7 +66,7 @@ NotificationCenter::Token NotificationCenter::addObserver(std::string_view name,
     return Token(entry);
 }
 
-void NotificationCenter::post(std::string_view name, const void* object) {
+void NotificationCenter::post(std::string_view name, const void* object, Notification::UserInfo userInfo) {
     std::vector<std::shared_ptr<Token::Entry>> receivers;
     {
         const std::lock_guard lock(_state->mutex);
@@ -79,8 +80,9 @@ void NotificationCenter::post(std::string_view name, const void* object) {
             collect(nullptr);
     }
     std::sort(receivers.begin(), receivers.end(), [](const auto& a, const auto& b) { return a->number < b->number; });
+    const Notification notification = {name, object, std::move(userInfo)};
     for (const auto& receiver : receivers)
-        receiver->observer({name, object});
+        receiver->observer(notification);
 }
 
 } // namespace brindle

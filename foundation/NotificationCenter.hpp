@@ -1,7 +1,10 @@
 #pragma once
 
+#include <any>
 #include <functional>
+#include <map>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -9,8 +12,20 @@ namespace brindle {
 
 /// A named notice. `object` identifies its sender and is compared by address only.
 struct Notification {
+    /// Values under text keys; the poster's documentation names each key and its type.
+    using UserInfo = std::map<std::string, std::any, std::less<>>;
+
     std::string_view name;
     const void* object = nullptr;
+    UserInfo userInfo = {};
+
+    /// The value under `key`; absent where there is none of that type.
+    template <typename T>
+    std::optional<T> value(std::string_view key) const {
+        const auto field = userInfo.find(key);
+        const T* const found = field == userInfo.end() ? nullptr : std::any_cast<T>(&field->second);
+        return found ? std::optional<T>(*found) : std::nullopt;
+    }
 };
 
 /// Delivers notices to observers on the poster's thread, in the order of their registration. Thread: any; an observer that is removed by
@@ -43,7 +58,7 @@ public:
     /// Calls `observer` for each notice of that name, of that object only where one is given.
     [[nodiscard]] Token addObserver(std::string_view name, const void* object, Observer observer);
 
-    void post(std::string_view name, const void* object = nullptr);
+    void post(std::string_view name, const void* object = nullptr, Notification::UserInfo userInfo = {});
 
 private:
     struct State;

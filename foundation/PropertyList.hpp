@@ -24,6 +24,8 @@ public:
     struct Null {};
     struct Data {
         std::string bytes;
+
+        friend bool operator==(const Data&, const Data&) = default;
     };
     /// A keyed archive's reference into its own "$objects".
     struct UID {

@@ -111,8 +111,9 @@ bool standsAlone(UChar32 code) {
     return u_getIntPropertyValue(code, UCHAR_GRAPHEME_CLUSTER_BREAK) == U_GCB_OTHER;
 }
 
-/// Counts by the boundary rules of UAX #29 in full.
-std::size_t countClusters(std::string_view text) {
+/// What `visit` gives of an iterator over the boundaries of UAX #29, in full, whose positions are offsets into `text`.
+template <typename Visitor>
+auto visitClusters(std::string_view text, Visitor visit) {
     UErrorCode status = U_ZERO_ERROR;
     thread_local const std::unique_ptr<icu::BreakIterator> iterator(
         icu::BreakIterator::createCharacterInstance(icu::Locale::getRoot(), status));
@@ -123,11 +124,29 @@ std::size_t countClusters(std::string_view text) {
     iterator->setText(source, status);
     if (U_FAILURE(status))
         fatalError("No character boundaries");
-    std::size_t count = 0;
-    while (iterator->next() != icu::BreakIterator::DONE)
-        ++count;
+    const auto result = visit(*iterator);
     utext_close(source);
-    return count;
+    return result;
+}
+
+std::size_t countClusters(std::string_view text) {
+    return visitClusters(text, [](icu::BreakIterator& iterator) {
+        std::size_t count = 0;
+        while (iterator.next() != icu::BreakIterator::DONE)
+            ++count;
+        return count;
+    });
+}
+
+/// The offset behind the first `count` clusters; the text's size when it has fewer.
+std::size_t offsetOfCluster(std::string_view text, std::size_t count) {
+    return visitClusters(text, [&](icu::BreakIterator& iterator) {
+        for (std::size_t i = 0; i < count; ++i) {
+            if (iterator.next() == icu::BreakIterator::DONE)
+                return text.size();
+        }
+        return static_cast<std::size_t>(iterator.current());
+    });
 }
 
 /// The digits behind an optional sign at the start of a text.
@@ -233,6 +252,24 @@ std::size_t characterCount(std::string_view text) {
         before = character;
     }
     return count;
+}
+
+std::string_view prefix(std::string_view text, std::size_t count) {
+    std::size_t counted = 0;
+    char before = 0;
+    for (std::size_t at = 0; at < text.size();) {
+        const std::size_t start = at;
+        const char character = text[at];
+        if (isASCII(character))
+            ++at;
+        else if (!standsAlone(next(text, at)))
+            return text.substr(0, offsetOfCluster(text, count));
+        const bool joins = character == '\n' && before == '\r';
+        if (!joins && counted++ == count)
+            return text.substr(0, start);
+        before = character;
+    }
+    return text;
 }
 
 std::size_t offsetOfUTF16(std::string_view text, std::size_t units) {

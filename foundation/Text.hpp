@@ -30,6 +30,10 @@ std::string folded(std::string_view text);
 /// The number of user-perceived characters (extended grapheme clusters, UAX #29). CR LF is one.
 std::size_t characterCount(std::string_view text);
 
+/// The first `count` user-perceived characters of `text`, counted as by `characterCount`; all of it when it has no more. A view into the
+/// argument.
+std::string_view prefix(std::string_view text, std::size_t count);
+
 /// The byte offset of the UTF-16 position `units` in `text` (a position inside a surrogate pair counts as the pair's start);
 /// the text's size when it is shorter. What the platform's ranges, counted in UTF-16 units, mean on UTF-8.
 std::size_t offsetOfUTF16(std::string_view text, std::size_t units);

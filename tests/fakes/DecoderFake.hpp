@@ -16,12 +16,14 @@ class DecoderFake : public Decoder {
 public:
     std::map<std::string, std::string, std::less<>> texts;
     std::map<std::string, std::int64_t, std::less<>> integers;
+    std::map<std::string, std::string, std::less<>> data;
     std::map<std::string, std::shared_ptr<Coding>, std::less<>> objects;
     std::map<std::string, std::vector<std::shared_ptr<Coding>>, std::less<>> arrays;
     std::map<std::string, std::vector<CodedDictionary>, std::less<>> dictionaries;
 
     std::optional<std::string> decodeText(std::string_view key) const override { return find(texts, key); }
     std::optional<std::int64_t> decodeInteger(std::string_view key) const override { return find(integers, key); }
+    std::optional<std::string> decodeData(std::string_view key) const override { return find(data, key); }
     std::shared_ptr<Coding> decodeObject(std::string_view key) const override { return find(objects, key).value_or(nullptr); }
     std::optional<std::vector<std::shared_ptr<Coding>>> decodeObjects(std::string_view key) const override { return find(arrays, key); }
     std::optional<std::vector<CodedDictionary>> decodeDictionaries(std::string_view key) const override { return find(dictionaries, key); }
@@ -42,6 +44,7 @@ public:
 
     void encode(std::string_view key, std::string_view text) override { fields.texts[note(key)] = text; }
     void encode(std::string_view key, std::int64_t integer) override { fields.integers[note(key)] = integer; }
+    void encode(std::string_view key, const PropertyList::Data& data) override { fields.data[note(key)] = data.bytes; }
     void encode(std::string_view key, std::shared_ptr<const Coding> object) override {
         fields.objects[note(key)] = std::const_pointer_cast<Coding>(std::move(object));
     }

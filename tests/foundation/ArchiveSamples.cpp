@@ -32,6 +32,8 @@ void Node::encode(Coder& coder) const {
     if (!table.empty())
         coder.encode("table", table);
     coder.encode("friend", std::shared_ptr<const Coding>(friendNode));
+    if (!blob.empty())
+        coder.encode("blob", PropertyList::Data{blob});
 }
 
 std::shared_ptr<Coding> Node::decoded(const Decoder& decoder) {
@@ -45,6 +47,7 @@ std::shared_ptr<Coding> Node::decoded(const Decoder& decoder) {
     }
     node->table = decoder.decodeDictionaries("table").value_or(std::vector<CodedDictionary>());
     node->friendNode = std::dynamic_pointer_cast<Node>(decoder.decodeObject("friend"));
+    node->blob = decoder.decodeData("blob").value_or(std::string());
     return node;
 }
 

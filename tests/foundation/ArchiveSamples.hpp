@@ -27,6 +27,7 @@ public:
     std::vector<std::shared_ptr<Node>> children;
     std::vector<CodedDictionary> table;
     std::shared_ptr<Node> friendNode;
+    std::string blob;         ///< not written when empty
     bool hasChildren = false; ///< set by decoding, when there was an array
 };
 

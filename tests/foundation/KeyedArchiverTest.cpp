@@ -114,6 +114,44 @@ TEST(KeyedArchiverTest, DepthCostsNoStack) {
     EXPECT_EQ(copy->name, "leaf");
 }
 
+TEST(KeyedArchiverTest, AnArrayMayBeTheRoot) {
+    const auto first = std::make_shared<Node>("a", 1);
+    const std::vector<std::shared_ptr<const Coding>> root = {first, std::make_shared<Node>("b", 2), first};
+    const std::string bytes = KeyedArchiver::archivedData(root).value();
+    const auto copy = testsupport::nodeUnarchiver().unarchiveArray(bytes).value().value();
+    ASSERT_EQ(copy.size(), 3U);
+    EXPECT_EQ(std::dynamic_pointer_cast<Node>(copy[1])->name, "b");
+    EXPECT_EQ(copy[0], copy[2]);
+    const PropertyList list = PropertyList::read(bytes).value();
+    const PropertyList::Index array = field(list, list.value(list.root, "$top").value(), "root");
+    EXPECT_EQ(*list.get<std::string>(field(list, field(list, array, "$class"), "$classname")), "NSArray");
+}
+
+TEST(KeyedArchiverTest, AnotherReaderReadsAnArrayForRoot) {
+    const std::vector<std::shared_ptr<const Coding>> root = {std::make_shared<Node>("a", 1), std::make_shared<Node>("b", 2)};
+    const std::string path = testing::TempDir() + "brindle-archive-" + std::to_string(getpid());
+    std::ofstream(path, std::ios::binary) << KeyedArchiver::archivedData(root).value();
+    const nlohmann::json output = nlohmann::json::parse(testsupport::runArchiveScript("read '" + path + "'"), nullptr, false);
+    unlink(path.c_str());
+    ASSERT_EQ(output.size(), 2U);
+    EXPECT_EQ(output[0]["name"], "a");
+    EXPECT_EQ(output[1]["number"], 2);
+}
+
+TEST(KeyedArchiverTest, AnEmptyArrayIsARootLikeAnyOther) {
+    const std::string bytes = KeyedArchiver::archivedData(std::vector<std::shared_ptr<const Coding>>()).value();
+    EXPECT_TRUE(testsupport::nodeUnarchiver().unarchiveArray(bytes).value().value().empty());
+}
+
+TEST(KeyedArchiverTest, BytesStandWhereTheyAreUsed) {
+    const auto root = std::make_shared<Node>("n");
+    root->blob = std::string("\0\xFF", 2);
+    const PropertyList list = PropertyList::read(archived(root)).value();
+    const PropertyList::Index node = field(list, list.value(list.root, "$top").value(), "root");
+    EXPECT_EQ(list.get<PropertyList::Data>(list.value(node, "blob").value())->bytes, root->blob);
+    EXPECT_EQ(unarchived(archived(root))->blob, root->blob);
+}
+
 TEST(KeyedArchiverTest, NoObjectGivesAnError) {
     EXPECT_FALSE(KeyedArchiver::archivedData(nullptr));
 }

@@ -191,6 +191,54 @@ TEST(KeyedUnarchiverTest, ARootOfAnotherKindIsNull) {
     EXPECT_EQ(*root, nullptr);
 }
 
+TEST(KeyedUnarchiverTest, ReadsBytesInlineAndByReference) {
+    HandMade inside;
+    inside.set(1, "blob", inside.list.add(PropertyList::Data{"abc"}));
+    EXPECT_EQ(unarchived(inside.bytes())->blob, "abc");
+    HandMade referred;
+    referred.set(1, "blob", referred.uid(referred.add(PropertyList::Data{"abc"})));
+    EXPECT_EQ(unarchived(referred.bytes())->blob, "abc");
+    HandMade text;
+    text.set(1, "blob", text.list.add(std::string("abc")));
+    EXPECT_EQ(unarchived(text.bytes())->blob, "");
+}
+
+TEST(KeyedUnarchiverTest, ARootThatIsNoArrayGivesNone) {
+    EXPECT_EQ(testsupport::nodeUnarchiver().unarchiveArray(archived(std::make_shared<Node>("n"))).value(), std::nullopt);
+    HandMade archive;
+    EXPECT_EQ(testsupport::nodeUnarchiver().unarchiveArray(archive.bytes(archive.addInstance("NSDictionary"))).value(), std::nullopt);
+}
+
+TEST(KeyedUnarchiverTest, ReadsAMutableArrayForRoot) {
+    HandMade archive;
+    const std::uint64_t array = archive.addInstance("NSMutableArray");
+    archive.set(array, "NS.objects", archive.list.add(PropertyList::Array{archive.uid(1), archive.uid(1)}));
+    EXPECT_EQ(testsupport::nodeUnarchiver().unarchiveArray(archive.bytes(array)).value().value().size(), 2U);
+}
+
+TEST(KeyedUnarchiverTest, ARootArrayWithAnythingButMadeObjectsGivesNone) {
+    const auto arrayWith = [](const auto& makeElement) {
+        HandMade archive;
+        const PropertyList::Index element = makeElement(archive);
+        const std::uint64_t array = archive.addInstance("NSArray");
+        archive.set(array, "NS.objects", archive.list.add(PropertyList::Array{archive.uid(1), element}));
+        return testsupport::nodeUnarchiver().unarchiveArray(archive.bytes(array)).value();
+    };
+    EXPECT_TRUE(arrayWith([](HandMade& archive) { return archive.uid(1); }));
+    EXPECT_FALSE(arrayWith([](HandMade& archive) { return archive.uid(archive.add(std::string("text"))); }));
+    EXPECT_FALSE(arrayWith([](HandMade& archive) { return archive.uid(0); }));
+    EXPECT_FALSE(arrayWith([](HandMade& archive) { return archive.uid(99); }));
+    EXPECT_FALSE(arrayWith([](HandMade& archive) { return archive.uid(archive.addInstance("NSArray")); }));
+    EXPECT_FALSE(arrayWith([](HandMade& archive) { return archive.uid(archive.addInstance("NSDictionary")); }));
+}
+
+TEST(KeyedUnarchiverTest, ARootArrayWithAnUnregisteredClassIsRefused) {
+    HandMade archive;
+    const std::uint64_t array = archive.addInstance("NSArray");
+    archive.set(array, "NS.objects", archive.list.add(PropertyList::Array{archive.uid(archive.addInstance("NSTask"))}));
+    EXPECT_FALSE(testsupport::nodeUnarchiver().unarchiveArray(archive.bytes(array)));
+}
+
 TEST(KeyedUnarchiverTest, ATruncatedArchiveIsRefused) {
     const auto root = std::make_shared<Node>("root", 70'000);
     root->children = {std::make_shared<Node>("\xC3\xA9")};

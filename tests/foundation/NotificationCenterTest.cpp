@@ -34,6 +34,20 @@ TEST(NotificationCenterTest, TellsOnlyOfTheNameAndTheObjectAskedFor) {
     EXPECT_EQ(count, 1);
 }
 
+TEST(NotificationCenterTest, GivesUserInfoByKeyAndType) {
+    NotificationCenter center;
+    int count = 0;
+    const auto token = center.addObserver("event", nullptr, [&](const Notification& notification) {
+        EXPECT_EQ(notification.value<bool>("flag"), true);
+        EXPECT_EQ(notification.value<std::string>("text"), "text");
+        EXPECT_EQ(notification.value<bool>("text"), std::nullopt);
+        EXPECT_EQ(notification.value<bool>("unknown"), std::nullopt);
+        ++count;
+    });
+    center.post("event", nullptr, {{"flag", true}, {"text", std::string("text")}});
+    EXPECT_EQ(count, 1);
+}
+
 TEST(NotificationCenterTest, ForgetsAnObserverWithItsToken) {
     NotificationCenter center;
     int count = 0;

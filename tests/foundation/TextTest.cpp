@@ -71,6 +71,19 @@ TEST(TextTest, CountsCarriageReturnWithLineFeedAsOne) {
     EXPECT_EQ(text::characterCount("e\xCC\x81\r\n"), 2U);
 }
 
+TEST(TextTest, TakesTheFirstCharacters) {
+    EXPECT_EQ(text::prefix("abc", 2), "ab");
+    EXPECT_EQ(text::prefix("abc", 3), "abc");
+    EXPECT_EQ(text::prefix("abc", 4), "abc");
+    EXPECT_EQ(text::prefix("abc", 0), "");
+    EXPECT_EQ(text::prefix("", 1), "");
+    EXPECT_EQ(text::prefix("\u00e9\u00e8x", 2), "\u00e9\u00e8");
+    EXPECT_EQ(text::prefix("a\r\nb", 2), "a\r\n");
+    EXPECT_EQ(text::prefix("xe\u0301y", 2), "xe\u0301");
+    EXPECT_EQ(text::prefix("e\u0301", 2), "e\u0301");
+    EXPECT_EQ(text::prefix("e\u0301e\u0301", 0), "");
+}
+
 TEST(TextTest, FindsPositionsCountedInUTF16) {
     const std::string_view mixed = "a\xC3\xA9\xF0\x9F\x98\x80z";
     EXPECT_EQ(text::offsetOfUTF16(mixed, 0), 0U);
