@@ -1,58 +1,26 @@
 #include "cli/ArticleCommands.hpp"
 
-#include "Brindle/library/FeedItemArticle.hpp"
+#include "cli/ArticleList.hpp"
 #include "cli/Library.hpp"
-#include "cli/TextTable.hpp"
 #include "foundation/Text.hpp"
 
 #include <memory>
 #include <optional>
 #include <string>
-#include <vector>
 
 namespace brindle {
 
 namespace {
 
 using JSON = nlohmann::ordered_json;
-using Articles = std::vector<std::shared_ptr<FeedItemArticle>>;
 
 constexpr Option feedOption = {"feed", "UUID", "of this feed, or of all feeds below this group, alone"};
 
-/// What the table calls an article.
-std::string_view stateName(const FeedItemArticle& article) {
-    return name(article.entry->isRead() ? ArticleStateFilter::read : ArticleStateFilter::unread);
-}
-
-JSON articleJSON(const FeedItemArticle& article) {
-    const auto feed = article.feedItem.lock();
-    const auto url = article.entry->preferredLinkURL();
-    JSON json = JSON::object();
-    json["feed"] = feed ? JSON(feed->uuid.uuidString()) : JSON();
-    json["title"] = article.entry->title;
-    json["url"] = url ? JSON(url->absoluteString()) : JSON();
-    json["state"] = stateName(article);
-    json["dateUpdated"] = iso8601String(article.entry->dateUpdated);
-    json["key"] = article.articleStateKey();
-    return json;
-}
-
 CommandResult print(const CommandContext& context, const Articles& articles) {
-    if (context.settings.json) {
-        JSON array = JSON::array();
-        for (const std::shared_ptr<FeedItemArticle>& article : articles)
-            array.push_back(articleJSON(*article));
-        context.output.json(array);
-        return ExitStatus::done;
-    }
-    TextTable table({"Updated", "State", "Feed", "Title", "Address"});
-    for (const std::shared_ptr<FeedItemArticle>& article : articles) {
-        const auto feed = article->feedItem.lock();
-        const auto url = article->entry->preferredLinkURL();
-        table.add({iso8601String(article->entry->dateUpdated), std::string(stateName(*article)), feed ? feed->name() : std::string(),
-            article->entry->title, url ? url->absoluteString() : std::string()});
-    }
-    context.output.text(table.text());
+    if (context.settings.json)
+        context.output.json(articlesJSON(articles));
+    else
+        context.output.text(articleTable(articles));
     return ExitStatus::done;
 }
 

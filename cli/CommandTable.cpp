@@ -2,13 +2,17 @@
 
 #include "cli/AddCommand.hpp"
 #include "cli/ArticleCommands.hpp"
+#include "cli/CollectionsCommand.hpp"
 #include "cli/DetectCommand.hpp"
 #include "cli/DiscoverCommand.hpp"
 #include "cli/EditCommands.hpp"
 #include "cli/ListCommand.hpp"
 #include "cli/NormaliseCommand.hpp"
+#include "cli/OPMLCommands.hpp"
 #include "cli/ParseCommand.hpp"
+#include "cli/PreferenceCommand.hpp"
 #include "cli/ReachabilityCommand.hpp"
+#include "cli/SavedArticleCommands.hpp"
 #include "cli/TreeCommand.hpp"
 #include "cli/UpdateCommand.hpp"
 
@@ -57,6 +61,13 @@ const std::vector<Command>& commandTable() {
         articlesCommand(),
         searchCommand(),
         markCommand(),
+        collectionsCommand(),
+        keepCommand(),
+        unkeepCommand(),
+        savedCommand(),
+        importCommand(),
+        exportCommand(),
+        preferenceCommand(),
     };
     return commands;
 }

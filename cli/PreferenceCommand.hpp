@@ -1,0 +1,10 @@
+#pragma once
+
+#include "cli/Command.hpp"
+
+namespace brindle {
+
+/// `prefs`: the preferences.
+Command preferenceCommand();
+
+} // namespace brindle
