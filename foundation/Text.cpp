@@ -138,17 +138,6 @@ std::size_t countClusters(std::string_view text) {
     });
 }
 
-/// The offset behind the first `count` clusters; the text's size when it has fewer.
-std::size_t offsetOfCluster(std::string_view text, std::size_t count) {
-    return visitClusters(text, [&](icu::BreakIterator& iterator) {
-        for (std::size_t i = 0; i < count; ++i) {
-            if (iterator.next() == icu::BreakIterator::DONE)
-                return text.size();
-        }
-        return static_cast<std::size_t>(iterator.current());
-    });
-}
-
 /// The digits behind an optional sign at the start of a text.
 struct SignedDigits {
     bool negative = false;
@@ -255,21 +244,15 @@ std::size_t characterCount(std::string_view text) {
 }
 
 std::string_view prefix(std::string_view text, std::size_t count) {
-    std::size_t counted = 0;
-    char before = 0;
-    for (std::size_t at = 0; at < text.size();) {
-        const std::size_t start = at;
-        const char character = text[at];
-        if (isASCII(character))
-            ++at;
-        else if (!standsAlone(next(text, at)))
-            return text.substr(0, offsetOfCluster(text, count));
-        const bool joins = character == '\n' && before == '\r';
-        if (!joins && counted++ == count)
-            return text.substr(0, start);
-        before = character;
-    }
-    return text;
+    if (text.size() <= count)
+        return text;
+    return visitClusters(text, [&](icu::BreakIterator& iterator) {
+        for (std::size_t i = 0; i < count; ++i) {
+            if (iterator.next() == icu::BreakIterator::DONE)
+                return text;
+        }
+        return text.substr(0, static_cast<std::size_t>(iterator.current()));
+    });
 }
 
 std::size_t offsetOfUTF16(std::string_view text, std::size_t units) {

@@ -27,6 +27,10 @@ bool setUserLocale(std::string_view identifier) {
     return true;
 }
 
+std::string userLocale() {
+    return icu::Locale::getDefault().getName();
+}
+
 bool setUserTimeZone(std::string_view identifier) {
     std::unique_ptr<icu::TimeZone> zone(icu::TimeZone::createTimeZone(
         icu::UnicodeString::fromUTF8(icu::StringPiece(identifier.data(), static_cast<std::int32_t>(identifier.size())))));

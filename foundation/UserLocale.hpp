@@ -12,6 +12,9 @@ namespace brindle {
 /// language.
 bool setUserLocale(std::string_view identifier);
 
+/// The process's locale by its ICU identifier ("de_DE").
+std::string userLocale();
+
 /// Sets the process's time zone by its IANA name ("Europe/Berlin") or an offset ("GMT+1"); false, and nothing changed, when there is no
 /// such zone.
 bool setUserTimeZone(std::string_view identifier);
