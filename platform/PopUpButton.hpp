@@ -1,0 +1,37 @@
+#pragma once
+
+#include "platform/Control.hpp"
+#include "platform/Menu.hpp"
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <vector>
+
+namespace brindle {
+
+/// A button with a menu of choices, each known by a tag. Thread: main.
+class PopUpButton : public Control {
+public:
+    /// A model as any other; it tells its own observers of its items.
+    Menu& menu() const { return *_menu; }
+
+    /// Appends an item. Separators take a tag too, which nothing selects.
+    void addItem(const std::shared_ptr<MenuItem>& item, std::int64_t tag);
+
+    /// The tag of an item of the menu; absent for any other.
+    std::optional<std::int64_t> tag(const MenuItem& item) const;
+
+    /// Null while none is selected.
+    const std::shared_ptr<MenuItem>& selectedItem() const { return _selectedItem; }
+    std::optional<std::int64_t> selectedTag() const { return _selectedItem ? tag(*_selectedItem) : std::nullopt; }
+    /// Selects the first item with that tag that is no separator; false, and no change, where there is none.
+    bool selectItem(std::int64_t tag);
+
+private:
+    std::shared_ptr<Menu> _menu = std::make_shared<Menu>();
+    std::vector<std::int64_t> _tags; ///< of the menu's items, in order
+    std::shared_ptr<MenuItem> _selectedItem;
+};
+
+} // namespace brindle

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "platform/Application.hpp"
+
+#include <string>
+#include <vector>
+
+namespace brindle {
+
+/// Logs each call by its name.
+class ApplicationFake : public Application {
+public:
+    void activate() override { log.emplace_back("activate"); }
+    void terminate() override { log.emplace_back("terminate"); }
+    void orderFrontStandardAboutPanel() override { log.emplace_back("orderFrontStandardAboutPanel"); }
+    bool isShiftKeyDown() const override { return shiftKeyIsDown; }
+
+    std::vector<std::string> log;
+    bool shiftKeyIsDown = false;
+};
+
+} // namespace brindle
