@@ -3,9 +3,12 @@
 #include "cli/ArgumentParser.hpp"
 #include "cli/CommandTable.hpp"
 #include "cli/Output.hpp"
+#include "cli/ResourceFolder.hpp"
 #include "cli/Settings.hpp"
 #include "cli/StandardError.hpp"
 #include "foundation/Console.hpp"
+#include "foundation/LocalizedStrings.hpp"
+#include "foundation/UserLocale.hpp"
 
 #include <algorithm>
 #include <array>
@@ -67,6 +70,11 @@ tl::expected<Request, CommandError> parseRequest(std::vector<std::string> words)
     return request;
 }
 
+/// The texts of menus and messages in the user's language. Without their tables the program shows their keys, and works all the same.
+void loadTexts() {
+    static_cast<void>(LocalizedStrings::load(resourceFolder() / "localisation", {userLocale()}));
+}
+
 CommandResult runCommand(const Request& request, Output& output, StandardError& standardError) {
     if (!request.command)
         return wrongUsage("no command given; see brindle-cli --help");
@@ -80,6 +88,7 @@ CommandResult runCommand(const Request& request, Output& output, StandardError& 
     const auto settings = Settings::make(request.global);
     if (!settings)
         return tl::unexpected(settings.error());
+    loadTexts();
     return command.run({request.own, *settings, output, standardError});
 }
 
