@@ -2,17 +2,22 @@
 
 #include "cli/AddCommand.hpp"
 #include "cli/ArticleCommands.hpp"
+#include "cli/ArticlePageCommand.hpp"
 #include "cli/CollectionsCommand.hpp"
 #include "cli/DetectCommand.hpp"
 #include "cli/DiscoverCommand.hpp"
 #include "cli/EditCommands.hpp"
 #include "cli/ListCommand.hpp"
+#include "cli/MenuCommand.hpp"
+#include "cli/MoveCommand.hpp"
 #include "cli/NormaliseCommand.hpp"
 #include "cli/OPMLCommands.hpp"
+#include "cli/OutlineCommand.hpp"
 #include "cli/ParseCommand.hpp"
 #include "cli/PreferenceCommand.hpp"
 #include "cli/ReachabilityCommand.hpp"
 #include "cli/SavedArticleCommands.hpp"
+#include "cli/StatusCommand.hpp"
 #include "cli/TreeCommand.hpp"
 #include "cli/UpdateCommand.hpp"
 
@@ -56,11 +61,16 @@ const std::vector<Command>& commandTable() {
         addSeparatorCommand(),
         editCommand(),
         removeCommand(),
+        moveCommand(),
         updateCommand(),
         listCommand(),
         articlesCommand(),
         searchCommand(),
         markCommand(),
+        articlePageCommand(),
+        outlineCommand(),
+        menuCommand(),
+        statusCommand(),
         collectionsCommand(),
         keepCommand(),
         unkeepCommand(),

@@ -1,6 +1,8 @@
 #include "cli/UpdateCommand.hpp"
 
+#include "cli/AnnouncedEvents.hpp"
 #include "cli/Library.hpp"
+#include "cli/PreferenceStore.hpp"
 #include "cli/TextTable.hpp"
 
 #include <algorithm>
@@ -50,6 +52,26 @@ void fetch(Library& library, const Items& items, std::chrono::seconds limit, Sta
     standardError.endProgress();
 }
 
+/// Writes what the items report to the file that the command line names; null where it names none.
+tl::expected<std::shared_ptr<AnnouncedEvents>, CommandError> openEvents(
+    const CommandContext& context, const Library& library, const Items& items) {
+    const auto file = context.arguments.value("events");
+    if (!file)
+        return nullptr;
+    if (file->empty() || *file == "-")
+        return wrongUsage("update: --events takes the name of a file");
+    const auto defaults = openPreferences(context.settings);
+    if (!defaults)
+        return tl::unexpected(defaults.error());
+    const auto log = EventLog::open(*file);
+    if (!log)
+        return tl::unexpected(log.error());
+    const auto events = std::make_shared<AnnouncedEvents>(*log, library.sharedManager(), *defaults, library.sharedAnswers());
+    for (const std::shared_ptr<FeedItem>& item : items)
+        item->delegate = events;
+    return events;
+}
+
 JSON answersJSON(const FeedAnswers& answers, const Items& items) {
     JSON array = JSON::array();
     for (const std::shared_ptr<FeedItem>& item : items) {
@@ -87,14 +109,19 @@ CommandResult run(const CommandContext& context) {
     const auto items = chosenItems(library, context.arguments.values("feed"));
     if (!items)
         return tl::unexpected(items.error());
+    const auto events = openEvents(context, library, *items);
+    if (!events)
+        return tl::unexpected(events.error());
     fetch(library, *items, std::chrono::seconds(*timeout), context.standardError);
-    const auto saved = library.save();
+    auto done = library.save();
+    if (done && *events)
+        done = (*events)->result();
     if (context.settings.json)
         context.output.json(answersJSON(library.answers(), *items));
     else
         context.output.text(answersText(library.answers(), *items));
-    if (!saved)
-        return tl::unexpected(saved.error());
+    if (!done)
+        return tl::unexpected(done.error());
     const bool allFinished = std::all_of(items->begin(), items->end(),
         [&](const std::shared_ptr<FeedItem>& item) { return library.answers().answer(*item).outcome == FeedAnswers::Outcome::finished; });
     return allFinished ? ExitStatus::done : ExitStatus::failed;
@@ -103,10 +130,11 @@ CommandResult run(const CommandContext& context) {
 } // namespace
 
 Command updateCommand() {
-    return {"update", "[--timeout SECONDS] [--feed UUID]... [--no-icons]",
+    return {"update", "[--timeout SECONDS] [--feed UUID]... [--no-icons] [--events FILE]",
         "Fetches every feed once, and saves. The exit status is 1 when one of them did not finish.",
         {{"timeout", "SECONDS", "how long to wait for all of them (default: 120)"},
-            {"feed", "UUID", "fetch this feed, or all below this group; may be repeated"}, {"no-icons", "", "look for no icons"}},
+            {"feed", "UUID", "fetch this feed, or all below this group; may be repeated"}, {"no-icons", "", "look for no icons"},
+            {"events", "FILE", "write what the desktop program would announce, one JSON object a line"}},
         0, 0, run};
 }
 

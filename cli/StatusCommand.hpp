@@ -1,0 +1,10 @@
+#pragma once
+
+#include "cli/Command.hpp"
+
+namespace brindle {
+
+/// `status`: what the status item and the dock show.
+Command statusCommand();
+
+} // namespace brindle
