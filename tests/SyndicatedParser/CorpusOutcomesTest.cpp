@@ -8,7 +8,6 @@
 #include <fstream>
 #include <gtest/gtest.h>
 #include <iomanip>
-#include <iostream>
 #include <map>
 #include <sstream>
 
@@ -98,8 +97,7 @@ TEST(CorpusOutcomesTest, AreThoseOfTheTable) {
         }
     }
     const std::string actual = table(folders);
-    std::cout << actual;
-    std::ofstream(testsupport::buildFolder() + "/corpus-outcomes.txt") << actual;
+    testsupport::noteOutcomes("feeds", actual);
     const std::string expected = testsupport::bytesOf(testsupport::sourceFolder() + "/tests/SyndicatedParser/corpus-outcomes.expected");
     EXPECT_EQ(difference(expected, actual), "");
 }

@@ -1,7 +1,6 @@
 #include <algorithm>
 #include <filesystem>
 #include <gtest/gtest.h>
-#include <iostream>
 #include <set>
 #include <sstream>
 #include <string>
@@ -122,7 +121,9 @@ TEST(HtmlTreeConstructionCorpusTest, GivesTheTreeOfEveryCase) {
             }
         }
     }
-    std::cout << run << " cases run, " << skipped << " skipped that need scripting\n";
+    testsupport::noteOutcomes("html5lib-tree-construction", "html5lib tree-construction: " + std::to_string(run) + " cases, " +
+                                                                std::to_string(knownFailures.size()) + " of them known to fail, and " +
+                                                                std::to_string(skipped) + " skipped that need scripting\n");
     EXPECT_EQ(run, 1280U);
     EXPECT_EQ(skipped, 10U);
 }

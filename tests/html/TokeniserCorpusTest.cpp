@@ -188,6 +188,7 @@ TEST(TokeniserCorpusTest, GivesTheTokensAndErrorsOfEveryCase) {
             runs += check(test);
         }
     }
+    testsupport::noteOutcomes("html5lib-tokenizer", "html5lib tokenizer: " + std::to_string(cases) + " cases\n");
     EXPECT_EQ(cases, 6303U);
     EXPECT_EQ(runs, 6509U);
 }

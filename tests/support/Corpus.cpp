@@ -1,5 +1,7 @@
 #include "tests/support/Corpus.hpp"
 
+#include "tests/support/Folders.hpp"
+
 #include <algorithm>
 #include <cstdlib>
 #include <fstream>
@@ -32,6 +34,12 @@ std::vector<fs::path> filesBelow(const fs::path& folder) {
     }
     std::sort(files.begin(), files.end());
     return files;
+}
+
+void noteOutcomes(const std::string& name, std::string_view table) {
+    const fs::path folder = fs::path(buildFolder()) / "outcomes";
+    fs::create_directories(folder);
+    std::ofstream(folder / (name + ".txt")) << table;
 }
 
 std::string bytesOf(const fs::path& file) {

@@ -21,6 +21,9 @@ std::vector<std::filesystem::path> filesBelow(const std::filesystem::path& folde
 /// The bytes of a file; fails the running test and gives none when it can't be read.
 std::string bytesOf(const std::filesystem::path& file);
 
+/// Leaves a table of what became of the corpus for whoever runs the tests to show: "outcomes/NAME.txt" in the build folder.
+void noteOutcomes(const std::string& name, std::string_view table);
+
 } // namespace brindle::testsupport
 
 /// Declares `variable` as the corpus folder, or ends the running test: skipped, or failed under CI=true.
