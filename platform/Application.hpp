@@ -5,7 +5,11 @@ namespace brindle {
 /// What a program asks of the desktop about itself. Thread: main.
 class Application {
 public:
+    /// Whether it is listed among the running programs and has an icon there.
+    enum class ActivationPolicy { regular = 0, accessory };
+
     virtual ~Application() = default;
+    virtual void setActivationPolicy(ActivationPolicy policy) = 0;
     /// Brings it to the front, whichever program is there.
     virtual void activate() = 0;
     /// Ends it in good order.

@@ -10,6 +10,9 @@ namespace brindle {
 /// Logs each call by its name.
 class ApplicationFake : public Application {
 public:
+    void setActivationPolicy(ActivationPolicy policy) override {
+        log.push_back("setActivationPolicy " + std::to_string(static_cast<int>(policy)));
+    }
     void activate() override { log.emplace_back("activate"); }
     void terminate() override { log.emplace_back("terminate"); }
     void orderFrontStandardAboutPanel() override { log.emplace_back("orderFrontStandardAboutPanel"); }
