@@ -12,10 +12,13 @@
 #include "cli/MoveCommand.hpp"
 #include "cli/NormaliseCommand.hpp"
 #include "cli/OPMLCommands.hpp"
+#include "cli/OpenCommand.hpp"
+#include "cli/OpenUnreadCommand.hpp"
 #include "cli/OutlineCommand.hpp"
 #include "cli/ParseCommand.hpp"
 #include "cli/PreferenceCommand.hpp"
 #include "cli/ReachabilityCommand.hpp"
+#include "cli/ResetCommand.hpp"
 #include "cli/SavedArticleCommands.hpp"
 #include "cli/StatusCommand.hpp"
 #include "cli/TreeCommand.hpp"
@@ -57,6 +60,7 @@ const std::vector<Command>& commandTable() {
         normaliseCommand(),
         reachabilityCommand(),
         addCommand(),
+        openCommand(),
         addGroupCommand(),
         addSeparatorCommand(),
         editCommand(),
@@ -67,6 +71,7 @@ const std::vector<Command>& commandTable() {
         articlesCommand(),
         searchCommand(),
         markCommand(),
+        openUnreadCommand(),
         articlePageCommand(),
         outlineCommand(),
         menuCommand(),
@@ -77,6 +82,7 @@ const std::vector<Command>& commandTable() {
         savedCommand(),
         importCommand(),
         exportCommand(),
+        resetCommand(),
         preferenceCommand(),
     };
     return commands;

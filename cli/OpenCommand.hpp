@@ -1,0 +1,10 @@
+#pragma once
+
+#include "cli/Command.hpp"
+
+namespace brindle {
+
+/// `open`: takes a feed into the library as a link from another program does.
+Command openCommand();
+
+} // namespace brindle
