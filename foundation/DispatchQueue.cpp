@@ -1,5 +1,6 @@
 #include "foundation/DispatchQueue.hpp"
 
+#include "foundation/ExitGate.hpp"
 #include "foundation/RunLoop.hpp"
 
 #include <algorithm>
@@ -43,19 +44,22 @@ public:
 
 private:
     WorkerPool() {
+        static ExitGate& gate = *new ExitGate;
+        static const ExitGate::Closer closer(gate);
         const unsigned count = std::clamp(std::thread::hardware_concurrency(), 2U, 8U);
         for (unsigned i = 0; i < count; ++i)
-            std::thread([this] { work(); }).detach();
+            std::thread([this] { work(gate); }).detach();
     }
 
-    [[noreturn]] void work() {
+    [[noreturn]] void work(ExitGate& gate) {
         for (;;) {
             std::unique_lock lock(_mutex);
             _added.wait(lock, [this] { return !_jobs.empty(); });
-            const Job job = std::move(_jobs.front());
+            Job job = std::move(_jobs.front());
             _jobs.pop_front();
             lock.unlock();
-            job();
+            const auto entered = gate.enter();
+            std::exchange(job, nullptr)();
         }
     }
 

@@ -1,5 +1,6 @@
 #include "foundation/URLSessionEngine.hpp"
 
+#include "foundation/ExitGate.hpp"
 #include "foundation/FatalError.hpp"
 #include "foundation/RunLoop.hpp"
 
@@ -49,7 +50,9 @@ URLSessionEngine::URLSessionEngine()
     curl_multi_setopt(_multi, CURLMOPT_MAX_TOTAL_CONNECTIONS, static_cast<long>(URLSession::maximumTransfers));
     curl_multi_setopt(_multi, CURLMOPT_MAX_HOST_CONNECTIONS, static_cast<long>(URLSession::maximumTransfersPerHost));
     curl_multi_setopt(_multi, CURLMOPT_MAXCONNECTS, static_cast<long>(URLSession::maximumTransfers));
-    std::thread([this] { run(); }).detach();
+    static ExitGate& gate = *new ExitGate;
+    static const ExitGate::Closer closer(gate);
+    std::thread([this] { run(gate); }).detach();
 }
 
 // Main thread.
@@ -147,10 +150,11 @@ void URLSessionEngine::complete(URLSessionDataTask& task, Outcome& outcome) {
 
 // Network thread.
 
-void URLSessionEngine::run() {
+void URLSessionEngine::run(ExitGate& gate) {
     std::array<epoll_event, 64> events;
     for (;;) {
         const int count = ::epoll_wait(_poll, events.data(), static_cast<int>(events.size()), timeout());
+        const auto entered = gate.enter();
         runCommands();
         int running = 0;
         for (int i = 0; i < count; ++i) {

@@ -14,6 +14,8 @@
 
 namespace brindle {
 
+class ExitGate;
+
 /// The process's network thread: libcurl's multi interface over sockets, with connections, names and TLS sessions shared by all transfers.
 /// Tasks hand it requests and get its answers on the main thread. Thread: as each operation says.
 class URLSessionEngine {
@@ -45,7 +47,7 @@ private:
     URLSessionEngine();
 
     // Network thread.
-    [[noreturn]] void run();
+    [[noreturn]] void run(ExitGate& gate);
     void runCommands();
     void beginTransfers();
     void suspendSilentTransfers();
