@@ -5,8 +5,8 @@
 
 namespace brindle {
 
-/// Keeps threads that live as long as the process out of the libraries once it ends: what libraries clean up at exit, a thread at work would
-/// still use. Never to be destroyed, since threads may come until the process is gone. Thread: any.
+/// Keeps threads that live as long as the process out of the libraries once it ends: what libraries clean up at exit, a thread at work
+/// would still use. Never to be destroyed, since threads may come until the process is gone. Thread: any.
 class ExitGate {
 public:
     /// Closes a gate at its end. To be made as a static object after the libraries in question were set up, so that it ends before they do.
