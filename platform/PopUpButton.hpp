@@ -4,6 +4,7 @@
 #include "platform/Menu.hpp"
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <vector>
@@ -27,6 +28,14 @@ public:
     std::optional<std::int64_t> selectedTag() const { return _selectedItem ? tag(*_selectedItem) : std::nullopt; }
     /// Selects the first item with that tag that is no separator; false, and no change, where there is none.
     bool selectItem(std::int64_t tag);
+
+    std::function<void()> onChoose; ///< called when a person has chosen; may be empty
+
+    /// A person chooses an item; nothing for a tag that no item has.
+    void choose(std::int64_t tag) {
+        if (selectItem(tag) && onChoose)
+            onChoose();
+    }
 
 private:
     std::shared_ptr<Menu> _menu = std::make_shared<Menu>();

@@ -10,8 +10,13 @@ public:
     double doubleValue() const { return _doubleValue; }
     void setDoubleValue(double value) { set(_doubleValue, value); }
 
+    /// Whether it moves, for work of which nobody knows how long it takes.
+    bool isAnimating() const { return _isAnimating; }
+    void setAnimating(bool isAnimating) { set(_isAnimating, isAnimating); }
+
 private:
     double _doubleValue = 0;
+    bool _isAnimating = false;
 };
 
 } // namespace brindle

@@ -1,5 +1,8 @@
 #pragma once
 
+#include "platform/Control.hpp"
+#include "platform/Image.hpp"
+
 #include <memory>
 #include <string>
 #include <string_view>
@@ -30,8 +33,14 @@ public:
     virtual void setFrameAutosaveName(std::string_view name) = 0;
     /// Takes the frame that is kept under a name, if there is one.
     virtual void setFrameUsingName(std::string_view name) = 0;
+    /// What is inside gets this size; the top edge stays where it is, and the change is animated where the desktop does that.
+    virtual void setContentSize(Image::Size size) = 0;
+    /// Gives the keyboard to what shows a control.
+    virtual void makeFirstResponder(const Control& control) = 0;
     /// Shows it in front and gives it the keyboard.
     virtual void show() = 0;
+    /// Takes it from the screen; tells the delegate before, as when a person closes it. Nothing where it is not there.
+    virtual void close() = 0;
     virtual bool isVisible() const = 0;
 };
 
