@@ -9,6 +9,12 @@ void PopUpButton::addItem(const std::shared_ptr<MenuItem>& item, std::int64_t ta
     _menu->addItem(item);
 }
 
+void PopUpButton::removeAllItems() {
+    set(_selectedItem, std::shared_ptr<MenuItem>());
+    _tags.clear();
+    _menu->removeAllItems();
+}
+
 std::optional<std::int64_t> PopUpButton::tag(const MenuItem& item) const {
     const Menu::Items& items = _menu->items();
     for (std::size_t i = 0; i < items.size(); ++i) {

@@ -20,6 +20,8 @@ public:
     /// Appends an item. Separators take a tag too, which nothing selects.
     void addItem(const std::shared_ptr<MenuItem>& item, std::int64_t tag);
 
+    void removeAllItems();
+
     /// The tag of an item of the menu; absent for any other.
     std::optional<std::int64_t> tag(const MenuItem& item) const;
 
