@@ -1,8 +1,9 @@
 #include "Brindle/shell/AddFeedFlow.hpp"
 
+#include "Brindle/browser/ChangeNotices.hpp"
 #include "Brindle/library/FeedsManager.hpp"
 #include "Brindle/shell/FeedURL.hpp"
-#include "foundation/NotificationCenter.hpp"
+#include "foundation/LocalizedStrings.hpp"
 #include "foundation/RunLoop.hpp"
 
 #include <iterator>
@@ -17,15 +18,16 @@ using Failure = AddFeedFlow::Failure;
 AddFeedFlowDelegate::Alert alert(Failure failure, std::string_view address) {
     switch (failure) {
     case Failure::emptyAddress:
-        return {"URL cannot be empty", "Please provide a valid URL of the feed."};
+        return {localized("URL cannot be empty"), localized("Please provide a valid URL of the feed.")};
     case Failure::invalidAddress:
-        return {"invalidURLDialogTitle", "invalidURLDialogMessage"};
+        return {localized("invalidURLDialogTitle"), localized("invalidURLDialogMessage")};
     case Failure::noFeedDiscovered:
-        return {"No Feeds Found!", "Brindle could not find any feeds associated to " + std::string(address)};
+        // Kept as is: asked for as a whole, so that no table has it.
+        return {localized("No Feeds Found!"), localized("Brindle could not find any feeds associated to " + std::string(address))};
     case Failure::unreadableFeed:
         break;
     }
-    return {"An error occured", "Could not connect to or parse feed. Please check the URL is correct and try again."};
+    return {localized("An error occured"), localized("Could not connect to or parse feed. Please check the URL is correct and try again.")};
 }
 
 } // namespace
@@ -34,15 +36,18 @@ std::shared_ptr<AddFeedFlow> AddFeedFlow::make(std::weak_ptr<FeedsManager> feeds
     return std::shared_ptr<AddFeedFlow>(new AddFeedFlow(std::move(feedsManager), std::move(delegate)));
 }
 
-void AddFeedFlow::confirm(std::string_view address) {
+std::optional<URL> AddFeedFlow::check(std::string_view address) {
     assertMainThread();
-    if (address.empty())
-        return fail(Failure::emptyAddress, address);
-    const auto url = typedFeedURL(address);
+    auto url = address.empty() ? std::nullopt : typedFeedURL(address);
     if (!url)
-        return fail(Failure::invalidAddress, address);
+        fail(address.empty() ? Failure::emptyAddress : Failure::invalidAddress, address);
+    return url;
+}
+
+void AddFeedFlow::confirm(std::string_view address) {
+    const auto url = check(address);
     const auto feedsManager = _feedsManager.lock();
-    if (!feedsManager)
+    if (!url || !feedsManager)
         return;
     const auto candidate = FeedItem::make(name, *url, updateRate, {}, {}, feedsManager->environment());
     candidate->delegate = weak_from_this();
@@ -76,12 +81,15 @@ void AddFeedFlow::commit(const FeedItems& feeds) {
     if (const auto delegate = _delegate.lock())
         delegate->addFeedFlowDidCommit(*this, committed);
     for (const std::shared_ptr<FeedItem>& feed : committed)
-        NotificationCenter::defaultCenter().post(didAddFeedNotification, feed.get());
+        notices::post(notices::didAddFeed, feed);
 }
 
 void AddFeedFlow::feedItemDidFinishParsing(FeedItem&, const std::vector<std::shared_ptr<FeedItemArticle>>&) {
-    if (_newFeedItem)
-        commit({_newFeedItem});
+    if (!_newFeedItem)
+        return;
+    commit({_newFeedItem});
+    if (const auto delegate = _delegate.lock())
+        delegate->addFeedFlowDidEnd(*this);
 }
 
 void AddFeedFlow::feedItemDidDiscoverFeedItems(FeedItem& feedItem, const FeedItems& feedItems) {

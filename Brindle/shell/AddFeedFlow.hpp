@@ -26,7 +26,7 @@ public:
         noFeedDiscovered ///< the candidate is a page that announces no feed
     };
 
-    /// What a person is told of a failure; for `invalidAddress`, keys of the localisation table.
+    /// What a person is told of a failure, in that person's language.
     struct Alert {
         std::string title;
         std::string text;
@@ -39,6 +39,8 @@ public:
     virtual void addFeedFlowDidDiscoverFeedItems(AddFeedFlow& flow) = 0;
     /// The feeds are in the library, fetch, and are saved; their notices are still to be posted.
     virtual void addFeedFlowDidCommit(AddFeedFlow& flow, const std::vector<std::shared_ptr<FeedItem>>& feeds) = 0;
+    /// The candidate itself was committed, and all was told of it.
+    virtual void addFeedFlowDidEnd(AddFeedFlow&) {}
 };
 
 /// The way of a typed address into the library: a candidate feed is made of it and fetched, and only a candidate that parsed, or what was
@@ -48,8 +50,6 @@ public:
     using Failure = AddFeedFlowDelegate::Failure;
     using FeedItems = std::vector<std::shared_ptr<FeedItem>>;
 
-    /// The name of the notice that is posted for each feed that entered the library; its object is the feed.
-    static constexpr std::string_view didAddFeedNotification = "NewFeedWindowControllerDidAddFeed";
     static constexpr std::int64_t defaultUpdateRate = 5; ///< minutes; what is offered before a person chooses
 
     static std::shared_ptr<AddFeedFlow> make(std::weak_ptr<FeedsManager> feedsManager, std::weak_ptr<AddFeedFlowDelegate> delegate);
@@ -57,9 +57,12 @@ public:
     std::string name; ///< what the feeds are to be called; may be empty. Read when the candidate is made and again at the commit
     std::int64_t updateRate = defaultUpdateRate; ///< minutes
 
+    /// The address that a typed text stands for; absent for none, once the delegate was told.
+    std::optional<URL> check(std::string_view address);
     /// Makes a candidate of the address and fetches it; an earlier candidate is dropped.
     void confirm(std::string_view address);
-    /// Appends the feeds to the end of the library's top level, fetches each again, and saves. With no feeds only the candidate is let go.
+    /// Appends the feeds to the end of the library's top level, fetches each again, saves, and posts `notices::didAddFeed` for each. With
+    /// no feeds only the candidate is let go.
     void commit(const FeedItems& feeds);
     /// Lets the candidate and what it led to go.
     void stop();

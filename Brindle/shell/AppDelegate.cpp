@@ -44,7 +44,7 @@ constexpr std::array<HandledAction, 12> handledActions = {{
     {actions::showArticle, [](AppDelegate& delegate, const Action& action) { delegate.actions().showArticle(action); }},
     {actions::openFeed, [](AppDelegate& delegate, const Action& action) { delegate.actions().openFeed(action); }},
     {actions::showFeedsBrowser, [](AppDelegate& delegate, const Action&) { delegate.actions().showFeedsBrowser(); }},
-    {actions::showPreferences, [](AppDelegate& delegate, const Action&) { delegate.actions().showPreferences(); }},
+    {actions::showPreferences, [](AppDelegate& delegate, const Action&) { delegate.showPreferences(); }},
 }};
 
 const HandledAction* handledAction(std::string_view name) {
@@ -161,7 +161,9 @@ void AppDelegate::perform(const Action& action) {
 }
 
 bool AppDelegate::validateMenuItem(const MenuItem& item) const {
-    const ArticleCounts counts(_feedsManager ? _feedsManager->feeds : FeedsManager::Feeds());
+    // Thousands of items are asked about that no count matters for.
+    const bool areCounted = _feedsManager && dependsOnArticleCounts(item.action());
+    const ArticleCounts counts(areCounted ? _feedsManager->feeds : FeedsManager::Feeds());
     return isMenuItemValid(item, counts, _windows->isFeedsBrowserVisible());
 }
 
@@ -205,14 +207,41 @@ void AppDelegate::updateDockBadge() {
     brindle::updateDockBadge(*feedsManager(), *_environment.defaults, *_environment.dockTile);
 }
 
+NewFeedEnvironment AppDelegate::newFeedEnvironment() {
+    return {feedsManager(), _environment.alerts, weak_from_this()};
+}
+
+PreferencesEnvironment AppDelegate::preferencesEnvironment() {
+    const auto updateBadge = [delegate = weak_from_this()] {
+        if (const auto self = delegate.lock())
+            self->updateDockBadge();
+    };
+    return {_environment.defaults, feedsManager(), _systemIntegration, _environment.speechVoices, updateBadge, weak_from_this()};
+}
+
 void AppDelegate::editFeedItem(const std::shared_ptr<FeedItem>& feedItem) {
-    if (const auto window = _windows->newFeed())
-        window->showForFeedItem(feedItem);
+    showNewFeed(NewFeedWindowController::Item{feedItem});
 }
 
 void AppDelegate::editFeedGroup(const std::shared_ptr<FeedGroup>& feedGroup) {
-    if (const auto window = _windows->newFeed())
-        window->showForFeedGroup(feedGroup);
+    showNewFeed(NewFeedWindowController::Group{feedGroup});
+}
+
+void AppDelegate::showNewFeed(NewFeedWindowController::Kind kind) {
+    const auto window = _windows->newFeed(newFeedEnvironment());
+    if (!window)
+        return;
+    window->kind = std::move(kind);
+    window->showWindow();
+}
+
+void AppDelegate::showPreferences() {
+    actions().activateIfHiddenInDock();
+    const auto window = _windows->preferences(preferencesEnvironment());
+    if (!window)
+        return;
+    window->contentViewController().selectedTabKind.reset();
+    window->showWindow();
 }
 
 } // namespace brindle

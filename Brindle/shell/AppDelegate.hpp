@@ -74,6 +74,7 @@ public:
     void updateDockBadge();
     void newFeed() { editFeedItem(nullptr); }
     void newGroup() { editFeedGroup(nullptr); }
+    void showPreferences();
 
     bool respondsTo(std::string_view action) const override;
     void perform(const Action& action) override;
@@ -97,6 +98,9 @@ private:
     explicit AppDelegate(AppDelegateEnvironment environment) : _environment(std::move(environment)) {}
     void connect();
     FeedsBrowserEnvironment browserEnvironment();
+    NewFeedEnvironment newFeedEnvironment();
+    PreferencesEnvironment preferencesEnvironment();
+    void showNewFeed(NewFeedWindowController::Kind kind);
     UpdateSuspension& updateSuspension();
     void finishFirstLaunch();
     void addDefaultFeedIfNeeded();

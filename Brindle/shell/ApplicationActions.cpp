@@ -132,16 +132,6 @@ void ApplicationActions::showFeedsBrowser() {
         revealInFeedsBrowser(nullptr);
 }
 
-void ApplicationActions::showPreferences() {
-    assertMainThread();
-    activateIfHiddenInDock();
-    const auto window = _windows->preferences();
-    if (!window)
-        return;
-    window->clearSelectedTabKind();
-    window->show();
-}
-
 /// The desktop does not bring a program to the front that has no place in the dock.
 void ApplicationActions::activateIfHiddenInDock() {
     if (_environment.defaults->boolForKey(preference::hideInDock))

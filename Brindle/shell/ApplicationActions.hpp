@@ -37,7 +37,8 @@ public:
     /// Appends a separator to the top level.
     void newSeparator();
     void showFeedsBrowser();
-    void showPreferences();
+    /// For windows that a person asked for.
+    void activateIfHiddenInDock();
     /// Plays it under a title.
     void showEnclosure(const SyndicatedEnclosure& enclosure, const std::string& title);
 
@@ -52,7 +53,6 @@ private:
     /// Whether the program's own browser opens it; the Shift key inverts what the preference says.
     bool opensInBrowser(std::string_view preferenceKey) const;
     void revealInFeedsBrowser(const std::shared_ptr<Feed>& feed);
-    void activateIfHiddenInDock();
 
     const FeedsBrowserEnvironment _environment;
     const std::shared_ptr<Application> _application;

@@ -3,6 +3,7 @@
 #include "Brindle/shell/WindowFactory.hpp"
 
 #include <memory>
+#include <optional>
 #include <utility>
 
 namespace brindle {
@@ -21,11 +22,11 @@ public:
     std::shared_ptr<MediaPlayerWindowController> mediaPlayer() {
         return made(_mediaPlayer, [this] { return _factory->makeMediaPlayer(); });
     }
-    std::shared_ptr<PreferencesWindow> preferences() {
-        return made(_preferences, [this] { return _factory->makePreferencesWindow(); });
+    std::shared_ptr<PreferencesWindowController> preferences(const PreferencesEnvironment& environment) {
+        return made(_preferences, [&] { return _factory->makePreferencesWindow(environment); });
     }
-    std::shared_ptr<NewFeedWindow> newFeed() {
-        return made(_newFeed, [this] { return _factory->makeNewFeedWindow(); });
+    std::shared_ptr<NewFeedWindowController> newFeed(const NewFeedEnvironment& environment) {
+        return made(_newFeed, [&] { return _factory->makeNewFeedWindow(environment); });
     }
     /// A new one each time.
     void showArticle(const FeedsBrowserEnvironment& environment, const std::shared_ptr<FeedItemArticle>& article) const {
@@ -33,22 +34,26 @@ public:
     }
 
     /// Whether the browser was made and is on the screen.
-    bool isFeedsBrowserVisible() const { return _feedsBrowser && _feedsBrowser->isWindowVisible(); }
+    bool isFeedsBrowserVisible() const { return _feedsBrowser && *_feedsBrowser && (*_feedsBrowser)->isWindowVisible(); }
 
 private:
+    /// Absent until it was asked for; null where it can't be made, which is not tried again.
+    template <typename T>
+    using Made = std::optional<std::shared_ptr<T>>;
+
     template <typename T, typename Make>
-    static std::shared_ptr<T> made(std::shared_ptr<T>& window, Make make) {
+    static std::shared_ptr<T> made(Made<T>& window, Make make) {
         if (!window)
             window = make();
-        return window;
+        return *window;
     }
 
     const std::shared_ptr<WindowFactory> _factory;
-    std::shared_ptr<SplashWindow> _splash;
-    std::shared_ptr<FeedsBrowserWindowController> _feedsBrowser;
-    std::shared_ptr<MediaPlayerWindowController> _mediaPlayer;
-    std::shared_ptr<PreferencesWindow> _preferences;
-    std::shared_ptr<NewFeedWindow> _newFeed;
+    Made<SplashWindow> _splash;
+    Made<FeedsBrowserWindowController> _feedsBrowser;
+    Made<MediaPlayerWindowController> _mediaPlayer;
+    Made<PreferencesWindowController> _preferences;
+    Made<NewFeedWindowController> _newFeed;
 };
 
 } // namespace brindle

@@ -20,6 +20,10 @@ ArticleCounts::Count representedCount(const MenuItem& item, const ArticleCounts&
 
 } // namespace
 
+bool dependsOnArticleCounts(std::string_view action) {
+    return action == actions::markArticlesAsRead || action == actions::markArticlesAsUnread || action == actions::openAllUnreadArticles;
+}
+
 bool isMenuItemValid(const MenuItem& item, const ArticleCounts& counts, bool isFeedsBrowserVisible) {
     const std::string_view action = item.action();
     if (action == actions::showFeedsBrowser)

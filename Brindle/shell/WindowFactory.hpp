@@ -3,8 +3,8 @@
 #include "Brindle/browser/FeedsBrowserEnvironment.hpp"
 #include "Brindle/browser/FeedsBrowserWindowController.hpp"
 #include "Brindle/browser/MediaPlayerWindowController.hpp"
-#include "Brindle/shell/NewFeedWindow.hpp"
-#include "Brindle/shell/PreferencesWindow.hpp"
+#include "Brindle/shell/NewFeedWindowController.hpp"
+#include "Brindle/shell/PreferencesWindowController.hpp"
 #include "Brindle/shell/SplashWindow.hpp"
 
 #include <memory>
@@ -18,8 +18,8 @@ public:
     virtual std::shared_ptr<SplashWindow> makeSplashWindow() = 0;
     virtual std::shared_ptr<FeedsBrowserWindowController> makeFeedsBrowser(const FeedsBrowserEnvironment& environment) = 0;
     virtual std::shared_ptr<MediaPlayerWindowController> makeMediaPlayer() = 0;
-    virtual std::shared_ptr<PreferencesWindow> makePreferencesWindow() = 0;
-    virtual std::shared_ptr<NewFeedWindow> makeNewFeedWindow() = 0;
+    virtual std::shared_ptr<PreferencesWindowController> makePreferencesWindow(const PreferencesEnvironment& environment) = 0;
+    virtual std::shared_ptr<NewFeedWindowController> makeNewFeedWindow(const NewFeedEnvironment& environment) = 0;
     /// Shows a new window around a controller of its own for this one article, with the article's title as the window's, which is not
     /// drawn.
     virtual void showArticleWindow(const FeedsBrowserEnvironment& environment, const std::shared_ptr<FeedItemArticle>& article) = 0;

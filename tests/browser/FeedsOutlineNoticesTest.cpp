@@ -1,6 +1,5 @@
 #include "Brindle/browser/ChangeNotices.hpp"
 #include "Brindle/events/UISyncDispatcher.hpp"
-#include "Brindle/shell/AddFeedFlow.hpp"
 #include "tests/browser/OutlineFixture.hpp"
 
 namespace brindle {
@@ -26,7 +25,6 @@ protected:
 TEST_F(FeedsOutlineNoticesTest, HaveTheNamesUnderWhichOthersPostThem) {
     EXPECT_EQ(notices::didReceiveNewArticles, UISyncDispatcher::didReceiveNewArticlesNotification);
     EXPECT_EQ(notices::didUpdateFeedItemImage, UISyncDispatcher::didUpdateFeedItemImageNotification);
-    EXPECT_EQ(notices::didAddFeed, AddFeedFlow::didAddFeedNotification);
 }
 
 TEST_F(FeedsOutlineNoticesTest, OfAParsedFeedReloadTheCollectionsThenItsRowAndThoseAboveIt) {

@@ -3,6 +3,7 @@
 #include "Brindle/shell/WindowFactory.hpp"
 #include "tests/fakes/OutlineViewFake.hpp"
 #include "tests/fakes/PlayerFake.hpp"
+#include "tests/fakes/TabViewFake.hpp"
 #include "tests/fakes/TableViewFake.hpp"
 #include "tests/fakes/WebViewFake.hpp"
 #include "tests/fakes/WindowFake.hpp"
@@ -18,28 +19,6 @@ public:
     explicit SplashWindowFake(CallLog callLog) : log(std::move(callLog)) {}
     void show() override { log->emplace_back("showSplash"); }
     void close() override { log->emplace_back("closeSplash"); }
-
-    CallLog log;
-};
-
-class PreferencesWindowFake : public PreferencesWindow {
-public:
-    explicit PreferencesWindowFake(CallLog callLog) : log(std::move(callLog)) {}
-    void clearSelectedTabKind() override { log->emplace_back("clearSelectedTabKind"); }
-    void show() override { log->emplace_back("showPreferences"); }
-
-    CallLog log;
-};
-
-class NewFeedWindowFake : public NewFeedWindow {
-public:
-    explicit NewFeedWindowFake(CallLog callLog) : log(std::move(callLog)) {}
-    void showForFeedItem(const std::shared_ptr<FeedItem>& item) override {
-        log->push_back("showForFeedItem " + (item ? item->name() : "new"));
-    }
-    void showForFeedGroup(const std::shared_ptr<FeedGroup>& group) override {
-        log->push_back("showForFeedGroup " + (group ? group->name() : "new"));
-    }
 
     CallLog log;
 };
@@ -76,10 +55,23 @@ public:
         player = makes ? MediaPlayerWindowController::make(std::make_shared<WindowFake>(log), view) : nullptr;
         return player;
     }
-    std::shared_ptr<PreferencesWindow> makePreferencesWindow() override {
-        return makes ? std::make_shared<PreferencesWindowFake>(log) : nullptr;
+    std::shared_ptr<PreferencesWindowController> makePreferencesWindow(const PreferencesEnvironment& environment) override {
+        if (!makes)
+            return nullptr;
+        preferencesWindow = std::make_shared<WindowFake>(log);
+        preferences = PreferencesWindowController::make(environment, preferencesWindow);
+        preferences->contentViewController().tabView = tabs;
+        preferences->windowDidLoad();
+        return preferences;
     }
-    std::shared_ptr<NewFeedWindow> makeNewFeedWindow() override { return makes ? std::make_shared<NewFeedWindowFake>(log) : nullptr; }
+    std::shared_ptr<NewFeedWindowController> makeNewFeedWindow(const NewFeedEnvironment& environment) override {
+        if (!makes)
+            return nullptr;
+        newFeedWindow = std::make_shared<WindowFake>(log);
+        newFeed = NewFeedWindowController::make(environment, newFeedWindow);
+        newFeed->windowDidLoad();
+        return newFeed;
+    }
     void showArticleWindow(const FeedsBrowserEnvironment&, const std::shared_ptr<FeedItemArticle>& article) override {
         log->push_back("showArticleWindow " + article->entry->title);
     }
@@ -91,6 +83,11 @@ public:
     std::shared_ptr<FeedsBrowserWindowController> browser;
     std::shared_ptr<WindowFake> browserWindow;
     std::shared_ptr<MediaPlayerWindowController> player;
+    std::shared_ptr<PreferencesWindowController> preferences;
+    std::shared_ptr<WindowFake> preferencesWindow;
+    std::shared_ptr<NewFeedWindowController> newFeed;
+    std::shared_ptr<WindowFake> newFeedWindow;
+    std::shared_ptr<TabViewFake> tabs = std::make_shared<TabViewFake>(log);
     std::shared_ptr<OutlineViewFake> outline = std::make_shared<OutlineViewFake>();
     std::shared_ptr<TableViewFake> table = std::make_shared<TableViewFake>();
     std::shared_ptr<WebContainerViewFake> webContainer = std::make_shared<WebContainerViewFake>();

@@ -133,7 +133,7 @@ TEST_F(AddFeedFlowTest, ANoticeIsPostedForEachFeedAfterTheCommit) {
     serve("/page", "<html>" + linkTo("/a") + linkTo("/b") + "</html>");
     std::vector<const void*> objects;
     const auto token = NotificationCenter::defaultCenter().addObserver(
-        AddFeedFlow::didAddFeedNotification, nullptr, [&](const Notification& notification) {
+        "NewFeedWindowControllerDidAddFeed", nullptr, [&](const Notification& notification) {
             EXPECT_EQ(log->calls.back(), "commit");
             objects.push_back(notification.object);
         });

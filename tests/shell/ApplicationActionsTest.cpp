@@ -199,13 +199,17 @@ TEST_F(ApplicationActionsTest, ShowTheOneFeedsBrowserWithNothingSelected) {
 
 TEST_F(ApplicationActionsTest, ShowThePreferences) {
     perform(actions::showPreferences);
-    EXPECT_THAT(takeCalls(), ElementsAre("clearSelectedTabKind", "showPreferences"));
+    windows->preferences->contentViewController().selectedTabKind = PreferencesTabViewController::TabKind::menu;
+    takeCalls();
+    perform(actions::showPreferences);
+    EXPECT_FALSE(windows->preferences->contentViewController().selectedTabKind);
+    EXPECT_THAT(takeCalls(), ElementsAre("selectTab 0", "setTitle General", "setContentSize 100x50", "showWindow"));
 }
 
 TEST_F(ApplicationActionsTest, ActivateAProgramThatIsNotInTheDock) {
     set(preference::hideInDock, true);
     perform(actions::showPreferences);
-    EXPECT_THAT(takeCalls(), ElementsAre("activate", "clearSelectedTabKind", "showPreferences"));
+    EXPECT_EQ(takeCalls().at(0), "activate");
     perform(actions::showFeedsBrowser);
     EXPECT_THAT(takeCalls(), ElementsAre("activate", "activate", "showWindow", "setTitle Feeds Browser"));
 }
@@ -220,13 +224,26 @@ TEST_F(ApplicationActionsTest, DoNothingWithoutTheirWindows) {
     EXPECT_THAT(takeCalls(), IsEmpty());
 }
 
+TEST_F(ApplicationActionsTest, TryOnlyOnceToMakeAWindow) {
+    windows->makes = false;
+    perform(actions::showPreferences);
+    windows->makes = true;
+    perform(actions::showPreferences);
+    EXPECT_EQ(windows->preferences, nullptr);
+}
+
 TEST_F(ApplicationActionsTest, OpenTheAddFeedWindow) {
     perform(actions::newFeed);
     perform(actions::newGroup);
-    delegate->editFeedItem(makeItem("a"));
-    delegate->editFeedGroup(FeedGroup::make("g"));
-    EXPECT_THAT(takeCalls(), ElementsAre("showForFeedItem new", "showForFeedGroup new", "showForFeedItem a", "Removing FeedItem: a",
-                                 "showForFeedGroup g", "Removing FeedGroup g"));
+    const auto item = add(makeItem("a"));
+    const auto group = add(FeedGroup::make("g"));
+    delegate->editFeedItem(item);
+    EXPECT_EQ(windows->newFeed->newFeedItemViewController()->feedItem, item);
+    delegate->editFeedGroup(group);
+    EXPECT_EQ(windows->newFeed->newFeedGroupViewController()->feedGroup, group);
+    std::vector<std::string> titles = takeCalls();
+    std::erase_if(titles, [](const std::string& call) { return !call.starts_with("setTitle"); });
+    EXPECT_THAT(titles, ElementsAre("setTitle New Feed", "setTitle New Feed Group", "setTitle Edit Feed", "setTitle Edit Feed Group"));
 }
 
 TEST_F(ApplicationActionsTest, AppendASeparator) {
