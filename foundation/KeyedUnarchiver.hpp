@@ -16,7 +16,8 @@ namespace brindle {
 
 /// Reads what `KeyedArchiver`, or the original platform, wrote. Only registered classes are made; an object of any other class refuses the
 /// whole archive, as secure coding does. Objects are made children first, without recursion; an object that (by a damaged archive) contains
-/// itself reads as absent there. Thread: any, one at a time.
+/// itself reads as absent there. Refused is also an archive whose objects share so much that reading it for each of them would take far
+/// more than the archive holds. Thread: any, one at a time.
 class KeyedUnarchiver {
 public:
     /// Makes an object of its fields; null when they don't suffice, which leaves it out of whatever holds it.

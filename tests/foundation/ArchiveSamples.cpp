@@ -69,6 +69,11 @@ std::shared_ptr<Node> unarchived(std::string_view bytes) {
     return root ? std::dynamic_pointer_cast<Node>(*root) : nullptr;
 }
 
+std::string errorOf(std::string_view bytes) {
+    const auto root = nodeUnarchiver().unarchive(bytes);
+    return root ? "none" : root.error().message;
+}
+
 std::string runArchiveScript(const std::string& arguments) {
     const std::string command = "python3 '" + testsupport::sourceFolder() + "/tests/foundation/keyed_archive.py' " + arguments;
     std::FILE* const pipe = popen(command.c_str(), "r");

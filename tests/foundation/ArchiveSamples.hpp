@@ -40,6 +40,9 @@ std::string archived(const std::shared_ptr<Node>& root);
 /// The root node out of an archive; null when it is refused or holds none.
 std::shared_ptr<Node> unarchived(std::string_view bytes);
 
+/// Why an archive is refused; "none" where it is read.
+std::string errorOf(std::string_view bytes);
+
 /// What the script beside the tests prints when it runs with these arguments; fails the running test when it fails.
 std::string runArchiveScript(const std::string& arguments);
 
