@@ -1,5 +1,7 @@
 #include "cli/JSONText.hpp"
 
+#include <algorithm>
+#include <cstddef>
 #include <vector>
 
 namespace brindle {
@@ -7,6 +9,9 @@ namespace brindle {
 namespace {
 
 using JSON = nlohmann::ordered_json;
+
+/// What is nested deeper is indented no further, so that the text grows with what it holds alone.
+constexpr std::size_t deepestIndentation = 64;
 
 struct Level {
     const JSON* container;
@@ -29,7 +34,7 @@ void begin(const JSON& value, std::vector<Level>& open, std::string& text) {
 
 void startLine(std::size_t depth, std::string& text) {
     text += '\n';
-    text.append(2 * depth, ' ');
+    text.append(2 * std::min(depth, deepestIndentation), ' ');
 }
 
 } // namespace

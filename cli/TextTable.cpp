@@ -7,11 +7,17 @@
 
 namespace brindle {
 
+namespace {
+
+constexpr std::size_t widestColumn = 80;
+
+} // namespace
+
 void TextTable::add(std::vector<std::string> cells) {
     _widths.resize(std::max(_widths.size(), cells.size()));
     for (std::size_t i = 0; i < cells.size(); ++i) {
         cells[i] = singleLine(cells[i]);
-        _widths[i] = std::max(_widths[i], text::characterCount(cells[i]));
+        _widths[i] = std::max(_widths[i], std::min(text::characterCount(cells[i]), widestColumn));
     }
     _rows.push_back(std::move(cells));
 }
@@ -27,7 +33,7 @@ std::string TextTable::text() const {
             }
             text.append(owed, ' ');
             text += row[i];
-            owed = _widths[i] - text::characterCount(row[i]) + 2;
+            owed = _widths[i] - std::min(text::characterCount(row[i]), _widths[i]) + 2;
         }
         text += '\n';
     }

@@ -6,8 +6,8 @@
 
 namespace brindle {
 
-/// Rows of text in aligned columns, for people: each column as wide as its widest cell, counted in user-perceived characters. Cells are
-/// made single lines.
+/// Rows of text in aligned columns, for people: each column as wide as its widest cell, but 80 at the most, counted in user-perceived
+/// characters; wider cells stand out. Cells are made single lines. Thread: any.
 class TextTable {
 public:
     explicit TextTable(std::vector<std::string> titles) { add(std::move(titles)); }
