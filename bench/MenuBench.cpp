@@ -45,6 +45,7 @@ public:
     }
     ~Surface() {
         _menuExtraManager.reset();
+        _collections.reset();
         _manager->feeds.clear();
         Console::redirect({});
     }

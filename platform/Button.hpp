@@ -32,8 +32,9 @@ public:
     void press() {
         if (_kind != Kind::push)
             setState(_kind == Kind::radio || !_state);
-        if (onPress)
-            onPress();
+        // A copy: what it does may replace it.
+        if (const auto pressed = onPress)
+            pressed();
     }
 
 private:

@@ -18,8 +18,9 @@ public:
     /// A person chooses a colour.
     void choose(const Color& color) {
         setColor(color);
-        if (onChoose)
-            onChoose();
+        // A copy: what it does may replace it.
+        if (const auto chosen = onChoose)
+            chosen();
     }
 
 private:

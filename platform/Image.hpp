@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/Size.hpp"
+
 #include <memory>
 #include <optional>
 #include <string>
@@ -12,17 +14,12 @@ class Image {
 public:
     enum class Kind { named, defaultFeedIcon, data };
 
-    /// In points.
-    struct Size {
-        double width = 0;
-        double height = 0;
-
-        friend bool operator==(const Size&, const Size&) = default;
-    };
+    using Size = brindle::Size;
 
     static Image named(std::string name);
     static Image defaultFeedIcon();
-    /// `bytes` is the file of an image in any format; whether it can be shown is not looked at.
+    /// `bytes` is the file of an image in any format; whether it can be shown is not looked at. Bytes that a toolkit can't read are drawn
+    /// as the default feed icon.
     static Image withData(std::string bytes);
 
     Kind kind() const { return _content->kind; }

@@ -32,9 +32,9 @@ void Menu::addItem(const std::shared_ptr<MenuItem>& item) {
 const Menu::Items& Menu::items() {
     if (const auto source = std::exchange(_itemSource, {}).lock()) {
         // Nothing that an observer has not been told of.
-        const auto observers = std::exchange(_observers, {});
+        const bool wasSilent = std::exchange(_isSilent, true);
         source->appendItems(*this);
-        _observers = observers;
+        _isSilent = wasSilent;
     }
     return _items;
 }
@@ -45,12 +45,20 @@ void Menu::setItemSource(std::weak_ptr<MenuItemSource> source) {
 }
 
 void Menu::moveItems(Menu& other) {
-    _itemSource = std::exchange(other._itemSource, {});
+    auto source = std::exchange(other._itemSource, {});
     const Items moved = other.letGo();
     other.tell();
     reserve(moved.size());
     for (const std::shared_ptr<MenuItem>& item : moved)
         addItem(item);
+    // Last, since an observer that is told of an item may look, and what the source makes stands behind all of them.
+    if (!source.expired())
+        setItemSource(std::move(source));
+}
+
+void Menu::addObserver(std::weak_ptr<MenuObserver> observer) {
+    std::erase_if(_observers, [](const auto& each) { return each.expired(); });
+    _observers.push_back(std::move(observer));
 }
 
 void Menu::removeAllItems() {
@@ -86,14 +94,21 @@ void Menu::didClose() {
 }
 
 void Menu::tell() {
-    for (const std::weak_ptr<MenuObserver>& each : _observers) {
+    if (_isSilent)
+        return;
+    // An observer may add others.
+    const auto observers = _observers;
+    for (const std::weak_ptr<MenuObserver>& each : observers) {
         if (const auto observer = each.lock())
             observer->menuDidChange(*this);
     }
 }
 
 void Menu::tellOfItem(MenuItem& item) {
-    for (const std::weak_ptr<MenuObserver>& each : _observers) {
+    if (_isSilent)
+        return;
+    const auto observers = _observers;
+    for (const std::weak_ptr<MenuObserver>& each : observers) {
         if (const auto observer = each.lock())
             observer->menuItemDidChange(*this, item);
     }

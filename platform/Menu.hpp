@@ -48,7 +48,7 @@ public:
     void removeAllItems();
 
     /// Held weakly; told of every change from now on.
-    void addObserver(std::weak_ptr<MenuObserver> observer) { _observers.push_back(std::move(observer)); }
+    void addObserver(std::weak_ptr<MenuObserver> observer);
 
     /// Enables and disables the items by who takes their actions, where that is done automatically.
     void update(const ResponderChain& chain);
@@ -66,6 +66,7 @@ private:
     Items _items;
     std::weak_ptr<MenuItemSource> _itemSource;
     std::vector<std::weak_ptr<MenuObserver>> _observers;
+    bool _isSilent = false; ///< while items are made that the observers have been told of
 };
 
 } // namespace brindle

@@ -24,8 +24,9 @@ public:
     /// A person enters a number.
     void choose(double value) {
         setDoubleValue(value);
-        if (onChoose)
-            onChoose();
+        // A copy: what it does may replace it.
+        if (const auto chosen = onChoose)
+            chosen();
     }
 
 private:

@@ -24,6 +24,7 @@ public:
     /// The height of an ordinary row, in points.
     virtual double rowHeight() const = 0;
 
+    /// Nothing is selected afterwards; the delegate is told where something was.
     virtual void reloadData() = 0;
     virtual void reloadItem(const OutlineItem& item, bool reloadChildren) = 0;
     virtual void expandItem(const OutlineItem& item) = 0;
@@ -31,7 +32,9 @@ public:
     virtual void beginUpdates() = 0;
     virtual void endUpdates() = 0;
     virtual void insertItem(std::size_t index, const OutlineItem& parent) = 0;
+    /// A row that goes is selected no more, nor is any other in its place; the delegate is told where it, or one below it, was.
     virtual void removeItem(std::size_t index, const OutlineItem& parent) = 0;
+    /// A row that moves stays selected.
     virtual void moveItem(std::size_t index, const OutlineItem& parent, std::size_t newIndex, const OutlineItem& newParent) = 0;
 
     /// In ascending order.
@@ -42,6 +45,7 @@ public:
     virtual OutlineItem itemAtRow(std::size_t row) const = 0;
     /// Absent for an item that is not shown.
     virtual std::optional<std::size_t> rowForItem(const OutlineItem& item) const = 0;
+    /// Also a row that a person can't select. The delegate is told of another selection as when a person makes it.
     virtual void selectRow(std::size_t row, bool byExtendingSelection) = 0;
     virtual void scrollRowToVisible(std::size_t row) = 0;
 };

@@ -1,34 +1,30 @@
 #include "platform/PopUpButton.hpp"
 
-#include <cstddef>
-
 namespace brindle {
 
 void PopUpButton::addItem(const std::shared_ptr<MenuItem>& item, std::int64_t tag) {
-    _tags.push_back(tag);
+    _choices.push_back({item, tag});
     _menu->addItem(item);
 }
 
 void PopUpButton::removeAllItems() {
     set(_selectedItem, std::shared_ptr<MenuItem>());
-    _tags.clear();
+    _choices.clear();
     _menu->removeAllItems();
 }
 
 std::optional<std::int64_t> PopUpButton::tag(const MenuItem& item) const {
-    const Menu::Items& items = _menu->items();
-    for (std::size_t i = 0; i < items.size(); ++i) {
-        if (items[i].get() == &item)
-            return _tags[i];
+    for (const Choice& choice : _choices) {
+        if (choice.item.get() == &item && isInMenu(choice))
+            return choice.tag;
     }
     return std::nullopt;
 }
 
 bool PopUpButton::selectItem(std::int64_t tag) {
-    const Menu::Items& items = _menu->items();
-    for (std::size_t i = 0; i < items.size(); ++i) {
-        if (_tags[i] == tag && !items[i]->isSeparator()) {
-            set(_selectedItem, items[i]);
+    for (const Choice& choice : _choices) {
+        if (choice.tag == tag && isInMenu(choice) && !choice.item->isSeparator()) {
+            set(_selectedItem, choice.item);
             return true;
         }
     }

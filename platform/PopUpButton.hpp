@@ -14,7 +14,7 @@ namespace brindle {
 /// A button with a menu of choices, each known by a tag. Thread: main.
 class PopUpButton : public Control {
 public:
-    /// A model as any other; it tells its own observers of its items.
+    /// A model as any other; it tells its own observers of its items. Items that come into it otherwise than by `addItem` have no tag.
     Menu& menu() const { return *_menu; }
 
     /// Appends an item. Separators take a tag too, which nothing selects.
@@ -35,13 +35,23 @@ public:
 
     /// A person chooses an item; nothing for a tag that no item has.
     void choose(std::int64_t tag) {
-        if (selectItem(tag) && onChoose)
-            onChoose();
+        if (!selectItem(tag))
+            return;
+        // A copy: what it does may replace it.
+        if (const auto chosen = onChoose)
+            chosen();
     }
 
 private:
+    struct Choice {
+        std::shared_ptr<MenuItem> item;
+        std::int64_t tag = 0;
+    };
+
+    bool isInMenu(const Choice& choice) const { return choice.item->menu() == _menu.get(); }
+
     std::shared_ptr<Menu> _menu = std::make_shared<Menu>();
-    std::vector<std::int64_t> _tags; ///< of the menu's items, in order
+    std::vector<Choice> _choices; ///< in order; the menu may have let go of some
     std::shared_ptr<MenuItem> _selectedItem;
 };
 

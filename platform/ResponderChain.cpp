@@ -9,7 +9,8 @@ std::shared_ptr<ActionHandler> ResponderChain::handler(std::string_view action) 
         if (auto found = each.lock(); found && found->respondsTo(action))
             return found;
     }
-    return nullptr;
+    const auto next = _next.lock();
+    return next ? next->handler(action) : nullptr;
 }
 
 std::shared_ptr<ActionHandler> ResponderChain::handler(const MenuItem& item) const {

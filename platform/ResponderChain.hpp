@@ -4,6 +4,7 @@
 
 #include <memory>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace brindle {
@@ -18,6 +19,8 @@ public:
     explicit ResponderChain(Handlers handlers) : _handlers(std::move(handlers)) {}
 
     void setHandlers(Handlers handlers) { _handlers = std::move(handlers); }
+    /// The chain whose handlers are asked after these. Chains must not go in a circle.
+    void setNext(std::weak_ptr<const ResponderChain> next) { _next = std::move(next); }
 
     /// The first that responds to the action; null where none does.
     std::shared_ptr<ActionHandler> handler(std::string_view action) const;
@@ -34,6 +37,7 @@ public:
 
 private:
     Handlers _handlers;
+    std::weak_ptr<const ResponderChain> _next;
 };
 
 } // namespace brindle

@@ -5,6 +5,9 @@
 namespace brindle {
 
 /// A field that a term is typed into. Whoever shows it sets the text and tells its controller. Thread: main.
-class SearchField : public TextField {};
+class SearchField : public TextField {
+public:
+    SearchField() { setEditable(true); }
+};
 
 } // namespace brindle

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/Image.hpp"
+#include "platform/Size.hpp"
 
 #include <cstddef>
 #include <memory>
@@ -26,7 +26,7 @@ public:
     /// Absent while it has no tabs.
     virtual std::optional<std::size_t> selectedTab() const = 0;
     /// The present size of the view behind a tab, in points.
-    virtual Image::Size viewSize(std::size_t index) const = 0;
+    virtual Size viewSize(std::size_t index) const = 0;
 };
 
 } // namespace brindle

@@ -15,7 +15,7 @@ public:
     const std::string& stringValue() const { return _stringValue; }
     void setStringValue(std::string value) { set(_stringValue, std::move(value)); }
 
-    /// Whether a person can type into it; what stands in it can be selected and copied in any case.
+    /// Whether a person can type into it, which nobody can unless told; what stands in it can be selected and copied in any case.
     bool isEditable() const { return _isEditable; }
     void setEditable(bool isEditable) { set(_isEditable, isEditable); }
 
@@ -30,7 +30,7 @@ public:
 private:
     std::string _stringValue;
     Color _textColor = Color::label;
-    bool _isEditable = true;
+    bool _isEditable = false;
     bool _drawsBackground = true;
 };
 

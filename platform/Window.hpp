@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/Control.hpp"
-#include "platform/Image.hpp"
+#include "platform/Size.hpp"
 
 #include <memory>
 #include <string>
@@ -34,7 +34,7 @@ public:
     /// Takes the frame that is kept under a name, if there is one.
     virtual void setFrameUsingName(std::string_view name) = 0;
     /// What is inside gets this size; the top edge stays where it is, and the change is animated where the desktop does that.
-    virtual void setContentSize(Image::Size size) = 0;
+    virtual void setContentSize(Size size) = 0;
     /// Gives the keyboard to what shows a control.
     virtual void makeFirstResponder(const Control& control) = 0;
     /// Shows it in front and gives it the keyboard.

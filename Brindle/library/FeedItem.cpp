@@ -67,6 +67,7 @@ std::shared_ptr<FeedItem> FeedItem::decode(const Decoder& decoder, const Syndica
 
 FeedItem::~FeedItem() {
     invalidateTimer();
+    _articles.clear();
     _session->delegate.reset();
     Console::print("Removing FeedItem: " + FeedItem::name());
 }

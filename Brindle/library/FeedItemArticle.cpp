@@ -1,6 +1,7 @@
 #include "Brindle/library/FeedItemArticle.hpp"
 
 #include "Brindle/library/FeedItem.hpp"
+#include "foundation/Console.hpp"
 #include "foundation/FatalError.hpp"
 
 #include <algorithm>
@@ -80,6 +81,10 @@ std::shared_ptr<FeedItemArticle> FeedItemArticle::decode(const Decoder& decoder,
             entry->enclosures.push_back(*std::move(enclosure));
     }
     return std::make_shared<FeedItemArticle>(entry, std::dynamic_pointer_cast<FeedItem>(decoder.decodeObject("parentFeedItem")));
+}
+
+FeedItemArticle::~FeedItemArticle() {
+    Console::print("Removing FeedItemArticle");
 }
 
 std::string FeedItemArticle::articleStateKey() const {

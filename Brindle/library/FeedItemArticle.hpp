@@ -18,6 +18,10 @@ public:
     FeedItemArticle(std::shared_ptr<SyndicatedEntry> articleEntry, std::weak_ptr<FeedItem> item);
     /// `now` becomes the entry's dates, which are not archived. Fatal when an enclosure's URL text is none.
     static std::shared_ptr<FeedItemArticle> decode(const Decoder& decoder, Date now);
+    /// Prints a line.
+    ~FeedItemArticle() override;
+    FeedItemArticle(const FeedItemArticle&) = delete;
+    FeedItemArticle& operator=(const FeedItemArticle&) = delete;
 
     const std::shared_ptr<SyndicatedEntry> entry;
     std::weak_ptr<FeedItem> feedItem;

@@ -59,9 +59,11 @@ bool SavedArticlesManager::load() {
     const auto objects = unarchiver(_environment).unarchiveArray(*bytes);
     if (!objects)
         return failed("Could not unarchive saved articles, error: " + objects.error().message);
-    const Articles articles = articlesAmong(objects->value_or(std::vector<std::shared_ptr<Coding>>()));
+    if (!*objects)
+        return false;
+    const Articles articles = articlesAmong(**objects);
     savedArticles.insert(savedArticles.end(), articles.begin(), articles.end());
-    return true;
+    return articles.size() == (*objects)->size();
 }
 
 bool SavedArticlesManager::save() {

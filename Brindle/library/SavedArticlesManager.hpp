@@ -26,7 +26,7 @@ public:
     std::vector<std::shared_ptr<FeedItemArticle>> savedArticles; ///< in the order of saving
 
     /// Appends what is stored. The articles come back unread and without a feed. False where there is no file, or it can't be read, which
-    /// prints a line.
+    /// prints a line; also, without a line, where it holds anything but a list of articles.
     virtual bool load();
     /// Replaces the file; nothing at all while there are no articles. False when they could not be stored, which prints a line.
     virtual bool save();
@@ -34,6 +34,8 @@ public:
     virtual bool saveArticle(const std::shared_ptr<FeedItemArticle>& article);
     /// Removes the same article, and saves, if it is there. False as for `save`.
     virtual bool unsaveArticle(const FeedItemArticle& article);
+    /// Whether the same article is among them.
+    bool isSaved(const FeedItemArticle& article) const { return find(article) != savedArticles.end(); }
 
     const std::filesystem::path& file() const { return _file; }
 

@@ -7,7 +7,7 @@
 
 namespace brindle {
 
-/// How the items of articles look, by the preferences.
+/// How the items of articles look, by the preferences. Thread: main.
 struct ArticleItemOptions {
     bool marksItems = false;         ///< unread ones bear a check mark
     bool marksItemsWhenRead = false; ///< read ones bear it instead

@@ -17,14 +17,14 @@ public:
     virtual void fill() = 0;
 };
 
-/// Makes a controller for each preview that opens.
+/// Makes a controller for each preview that opens. Thread: main.
 class ArticlePreviewFactory {
 public:
     virtual ~ArticlePreviewFactory() = default;
     virtual std::shared_ptr<ArticlePreviewController> makePreview(const std::shared_ptr<FeedItemArticle>& article) = 0;
 };
 
-/// The content of an article without its tags; empty where it has none. UTF-8.
+/// The content of an article without its tags; empty where it has none. UTF-8. Thread: main.
 std::string previewText(const FeedItemArticle& article);
 
 } // namespace brindle

@@ -47,9 +47,18 @@ void FeedItemArticlesMenuItemRepresentation::configure() {
         return;
     menuItem()->setEnabled(true);
     submenu()->removeAllItems();
-    _areRead.resize(articles.size());
-    for (std::size_t i = 0; i < articles.size(); ++i)
-        _areRead[i] = articles[i]->entry->isRead();
+    _looks.clear();
+    _looks.reserve(articles.size());
+    std::shared_ptr<FeedItem> feed;
+    const Image* image = &_rebuild->feedImage(feed);
+    for (const std::shared_ptr<FeedItemArticle>& article : articles) {
+        // The articles of a feed mostly stand together.
+        if (auto item = article->feedItem.lock(); item != feed) {
+            image = &_rebuild->feedImage(item);
+            feed = std::move(item);
+        }
+        _looks.push_back({article->entry->isRead(), image});
+    }
     submenu()->setItemSource(weak_from_this());
     menuItem()->setTitle({});
 }
@@ -57,18 +66,19 @@ void FeedItemArticlesMenuItemRepresentation::configure() {
 void FeedItemArticlesMenuItemRepresentation::appendItems(Menu& menu) {
     menu.reserve(articles.size());
     for (std::size_t i = 0; i < articles.size(); ++i)
-        appendArticleItem(articles[i], _areRead[i], menu);
+        appendArticleItem(articles[i], _looks[i], menu);
 }
 
-void FeedItemArticlesMenuItemRepresentation::appendArticleItem(const std::shared_ptr<FeedItemArticle>& article, bool isRead, Menu& menu) {
+void FeedItemArticlesMenuItemRepresentation::appendArticleItem(
+    const std::shared_ptr<FeedItemArticle>& article, const Look& look, Menu& menu) {
     const SyndicatedEntry& entry = *article->entry;
     const ArticleItemOptions& options = _rebuild->articleItems;
     const auto item = std::make_shared<MenuItem>(titleOf(entry, options), actions::showArticle);
     item->setTarget(_rebuild->applicationDelegate);
     item->setRepresentedObject(article);
     const Image* const enclosure = enclosureImage(entry);
-    item->setImage(enclosure ? *enclosure : _rebuild->feedImage(article->feedItem.lock().get()));
-    bool isUnread = !isRead;
+    item->setImage(enclosure ? *enclosure : *look.feedImage);
+    bool isUnread = !look.isRead;
     if (options.marksItems) {
         // Kept as is: when the mark is for read items, those get the style of unread ones as well.
         isUnread = isUnread != options.marksItemsWhenRead;

@@ -39,10 +39,16 @@ public:
     std::shared_ptr<Menu> makeSubmenu(const MenuItem& item) override;
 
 private:
-    void appendArticleItem(const std::shared_ptr<FeedItemArticle>& article, bool isRead, Menu& menu);
+    /// What an article's item shows and may be another later.
+    struct Look {
+        bool isRead = false;
+        const Image* feedImage = nullptr; ///< of the rebuild
+    };
+
+    void appendArticleItem(const std::shared_ptr<FeedItemArticle>& article, const Look& look, Menu& menu);
 
     std::shared_ptr<MenuRebuild> _rebuild;
-    std::vector<bool> _areRead; ///< of each article, at the time of `configure`
+    std::vector<Look> _looks; ///< of each article, at the time of `configure`
     std::shared_ptr<ArticlePreviewController> _currentPreview;
 };
 

@@ -19,7 +19,7 @@ void FeedItemMenuItemRepresentation::configure() {
         if (_rebuild->showsUnreadInFeeds && count && count->unread > 0)
             title += " (" + std::to_string(count->unread) + ")";
     }
-    menuItem()->setImage(_rebuild->feedImage(feedItem.get()));
+    menuItem()->setImage(_rebuild->feedImage(feedItem));
     menuItem()->setTitle(std::move(title));
 }
 

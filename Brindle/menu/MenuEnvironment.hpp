@@ -15,7 +15,7 @@
 
 namespace brindle {
 
-/// What the menu is made from, and what it asks of those above it.
+/// What the menu is made from, and what it asks of those above it. Thread: main.
 struct MenuEnvironment {
     std::shared_ptr<FeedsManager> feedsManager;
     std::shared_ptr<CollectionEntityManager> collectionEntityManager;

@@ -15,16 +15,14 @@ MenuRebuild::MenuRebuild(const UserDefaults& defaults, const FeedsManager::Feeds
     : showsUnreadInFeeds(defaults.boolForKey(preference::showUnreadArticlesInFeeds)),
       showsUnreadInGroups(defaults.boolForKey(preference::showUnreadArticlesInGroups)), articleItems(ArticleItemOptions::read(defaults)),
       counts(feeds), applicationDelegate(std::move(delegate)), previews(std::move(previewFactory)),
-      _defaultImage(menuItemImage(Image::defaultFeedIcon())) {
-    for (const std::shared_ptr<FeedItem>& item : FeedsManager::items(feeds)) {
-        if (const auto& data = item->feedImageData())
-            _images.emplace(item.get(), menuItemImage(Image::withData(*data)));
-    }
-}
+      _defaultImage(menuItemImage(Image::defaultFeedIcon())) {}
 
-const Image& MenuRebuild::feedImage(const FeedItem* item) const {
+const Image& MenuRebuild::feedImage(const std::shared_ptr<const FeedItem>& item) {
+    if (!item || !item->feedImageData())
+        return _defaultImage;
     const auto found = _images.find(item);
-    return found == _images.end() ? _defaultImage : found->second;
+    return found != _images.end() ? found->second
+                                  : _images.emplace(item, menuItemImage(Image::withData(*item->feedImageData()))).first->second;
 }
 
 } // namespace brindle

@@ -7,8 +7,8 @@
 #include "platform/ActionHandler.hpp"
 #include "platform/Image.hpp"
 
+#include <map>
 #include <memory>
-#include <unordered_map>
 
 namespace brindle {
 
@@ -31,13 +31,13 @@ public:
     const std::weak_ptr<ActionHandler> applicationDelegate;
     const std::shared_ptr<ArticlePreviewFactory> previews;
 
-    /// The feed's icon, as it was then, else the default one that all feeds share; the default one also for no feed, and for one that was
-    /// not in the library.
-    const Image& feedImage(const FeedItem* item) const;
+    /// The feed's icon, one image for all who ask, else the default one that all feeds share; the default one also for null. Valid for as
+    /// long as this object.
+    const Image& feedImage(const std::shared_ptr<const FeedItem>& item);
 
 private:
     const Image _defaultImage;
-    std::unordered_map<const FeedItem*, Image> _images; ///< of the feeds that have one
+    std::map<std::weak_ptr<const FeedItem>, Image, std::owner_less<>> _images; ///< of the feeds that were asked for and have one
 };
 
 } // namespace brindle

@@ -6,7 +6,7 @@
 
 namespace brindle {
 
-/// Which of the menu's own items one is.
+/// Which of the menu's own items one is. Thread: any.
 struct MenuType {
     enum class Case { custom, preferences, pauseUpdates, about, quit, updateAll, markAllRead, markAllUnread, openAllUnread, feedsBrowser };
 

@@ -3,6 +3,7 @@
 #include "platform/ActionHandler.hpp"
 #include "platform/MenuItem.hpp"
 
+#include <functional>
 #include <set>
 #include <string>
 #include <vector>
@@ -19,6 +20,8 @@ public:
     void perform(const Action& action) override {
         log.emplace_back(action.name);
         senders.push_back(action.sender);
+        if (onPerform)
+            onPerform(action);
     }
     bool validateMenuItem(const MenuItem& item) const override {
         validated.push_back(item.title());
@@ -27,6 +30,7 @@ public:
 
     std::set<std::string, std::less<>> actions;
     bool validates = true;
+    std::function<void(const Action&)> onPerform; ///< may be empty
     std::vector<std::string> log;
     std::vector<std::shared_ptr<ActionSender>> senders;
     mutable std::vector<std::string> validated; ///< titles

@@ -2,6 +2,7 @@
 
 #include "platform/DockTile.hpp"
 
+#include <functional>
 #include <vector>
 
 namespace brindle {
@@ -9,9 +10,14 @@ namespace brindle {
 /// Logs the labels.
 class DockTileFake : public DockTile {
 public:
-    void setBadgeLabel(const std::optional<std::string>& label) override { labels.push_back(label); }
+    void setBadgeLabel(const std::optional<std::string>& label) override {
+        labels.push_back(label);
+        if (onSetBadgeLabel)
+            onSetBadgeLabel();
+    }
 
     std::vector<std::optional<std::string>> labels;
+    std::function<void()> onSetBadgeLabel; ///< may be empty
 };
 
 } // namespace brindle

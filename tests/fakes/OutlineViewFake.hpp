@@ -32,6 +32,7 @@ public:
     void reloadData() override {
         log->emplace_back("reloadData");
         expanded.clear();
+        select(nullptr);
     }
     void reloadItem(const OutlineItem& item, bool reloadChildren) override {
         log->push_back("reloadItem " + name(item) + (reloadChildren ? " with children" : ""));
@@ -47,13 +48,20 @@ public:
     }
     void removeItem(std::size_t index, const OutlineItem& parent) override {
         log->push_back("removeItem " + std::to_string(index) + " in " + name(parent));
+        const OutlineItem item = _selected.lock();
+        if (!item || !rowForItem(item))
+            select(nullptr);
     }
     void moveItem(std::size_t index, const OutlineItem& parent, std::size_t newIndex, const OutlineItem& newParent) override {
         log->push_back(
             "moveItem " + std::to_string(index) + " in " + name(parent) + " to " + std::to_string(newIndex) + " in " + name(newParent));
     }
 
-    std::vector<std::size_t> selectedRows() const override { return selection; }
+    std::vector<std::size_t> selectedRows() const override {
+        const OutlineItem item = _selected.lock();
+        const auto row = item ? rowForItem(item) : std::nullopt;
+        return row ? std::vector<std::size_t>{*row} : std::vector<std::size_t>();
+    }
     std::optional<std::size_t> clickedRow() const override { return clicked; }
     OutlineItem itemAtRow(std::size_t row) const override {
         const std::vector<OutlineItem> shown = rows();
@@ -66,17 +74,14 @@ public:
     }
     void selectRow(std::size_t row, bool byExtendingSelection) override {
         log->push_back("selectRow " + name(itemAtRow(row)) + (byExtendingSelection ? " too" : ""));
-        selection = {row};
+        select(itemAtRow(row));
     }
     void scrollRowToVisible(std::size_t row) override { log->push_back("scrollRowToVisible " + name(itemAtRow(row))); }
 
     /// Selects an item's row as a person would; null selects nothing.
     void click(const OutlineItem& item) {
-        const auto row = item ? rowForItem(item) : std::nullopt;
-        selection = row ? std::vector<std::size_t>{*row} : std::vector<std::size_t>();
-        clicked = row;
-        if (const auto receiver = delegate.lock())
-            receiver->outlineViewSelectionDidChange();
+        clicked = item ? rowForItem(item) : std::nullopt;
+        select(clicked ? item : nullptr);
     }
 
     /// All rows that are shown, from the top.
@@ -102,11 +107,22 @@ public:
     std::weak_ptr<OutlineViewDataSource> dataSource;
     std::weak_ptr<OutlineViewDelegate> delegate;
     std::set<OutlineItem> expanded;
-    std::vector<std::size_t> selection;
     std::optional<std::size_t> clicked;
 
 private:
+    /// Tells the delegate where that is another selection.
+    void select(const OutlineItem& item) {
+        const bool isOther = item ? item != _selected.lock() : _hasSelection;
+        _hasSelection = item != nullptr;
+        _selected = item;
+        if (const auto receiver = delegate.lock(); receiver && isOther)
+            receiver->outlineViewSelectionDidChange();
+    }
+
     static std::string word(bool value) { return value ? "true" : "false"; }
+
+    std::weak_ptr<Object> _selected; ///< by the item, so that it stays when rows move; not kept alive
+    bool _hasSelection = false;
 };
 
 } // namespace brindle

@@ -43,6 +43,7 @@ public:
     std::shared_ptr<Player> makePlayer(const URL& url) override {
         log->push_back("makePlayer " + url.absoluteString());
         made = std::make_shared<PlayerFake>(log);
+        made->currentStatus = statusOfNext;
         return made;
     }
     std::shared_ptr<Player> player() const override { return current; }
@@ -52,7 +53,8 @@ public:
     }
 
     CallLog log;
-    std::shared_ptr<PlayerFake> made; ///< the last
+    Player::Status statusOfNext = Player::Status::unknown; ///< which a new player has at once
+    std::shared_ptr<PlayerFake> made;                      ///< the last
     std::shared_ptr<Player> current;
 };
 

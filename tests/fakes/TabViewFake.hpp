@@ -27,7 +27,7 @@ public:
             told->didSelectTab(index);
     }
     std::optional<std::size_t> selectedTab() const override { return selected; }
-    Image::Size viewSize(std::size_t index) const override { return {100.0 * static_cast<double>(index + 1) + growth, 50}; }
+    Size viewSize(std::size_t index) const override { return {100.0 * static_cast<double>(index + 1) + growth, 50}; }
 
     CallLog log;
     std::weak_ptr<TabViewDelegate> delegate;

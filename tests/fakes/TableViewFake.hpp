@@ -17,7 +17,10 @@ public:
     void setColumnHidden(std::string_view column, bool isHidden) override {
         log->push_back((isHidden ? "hide " : "show ") + std::string(column));
     }
-    void reloadData() override { log->emplace_back("reloadData"); }
+    void reloadData() override {
+        log->emplace_back("reloadData");
+        selection.clear();
+    }
     void reloadRow(std::size_t row, const std::vector<std::string_view>& columns) override {
         std::string call = "reloadRow " + std::to_string(row);
         for (const std::string_view column : columns)

@@ -36,17 +36,14 @@ public:
         if (!makes)
             return nullptr;
         const auto toolbarItem = std::make_shared<RemoveFeedToolbarItem>();
-        const auto feeds = FeedsBrowserFeedsViewController::make(environment, toolbarItem);
-        feeds->feedsOutlineView = outline;
-        feeds->viewDidLoad();
-        const auto articles = FeedsBrowserFeedArticlesViewController::make(environment);
-        articles->articlesTableView = table;
-        articles->viewDidLoad();
-        const auto article = FeedsBrowserArticleViewController::make(environment, webContainer, false);
-        article->viewDidLoad();
+        const auto split = FeedsBrowserSplitViewController::make(environment, toolbarItem, webContainer);
+        split->feedsViewController().feedsOutlineView = outline;
+        split->feedsViewController().viewDidLoad();
+        split->articlesViewController().articlesTableView = table;
+        split->articlesViewController().viewDidLoad();
+        split->articleViewController().viewDidLoad();
         browserWindow = std::make_shared<WindowFake>(log);
-        browser = std::make_shared<FeedsBrowserWindowController>(
-            environment, browserWindow, std::make_shared<FeedsBrowserSplitViewController>(feeds, articles, article), toolbarItem);
+        browser = std::make_shared<FeedsBrowserWindowController>(environment, browserWindow, split, toolbarItem);
         ++browsersMade;
         return browser;
     }

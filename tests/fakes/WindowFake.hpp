@@ -22,7 +22,7 @@ public:
     void setStyleMask(unsigned mask) override { log->push_back("setStyleMask " + std::to_string(mask)); }
     void setFrameAutosaveName(std::string_view name) override { log->push_back("setFrameAutosaveName " + std::string(name)); }
     void setFrameUsingName(std::string_view name) override { log->push_back("setFrameUsingName " + std::string(name)); }
-    void setContentSize(Image::Size size) override {
+    void setContentSize(Size size) override {
         log->push_back("setContentSize " + std::to_string(std::lround(size.width)) + "x" + std::to_string(std::lround(size.height)));
     }
     void makeFirstResponder(const Control& control) override { firstResponder = &control; }

@@ -182,6 +182,24 @@ TEST_F(CollectionEntityManagerTest, WithAllKeysFalseARefreshChangesNothing) {
     EXPECT_THAT(collections.savedArticlesCollectionEntity->entities(), IsEmpty());
 }
 
+TEST_F(CollectionEntityManagerTest, ACollectionThatIsShownNoMoreKeepsWhatItHas) {
+    const auto item = add({{"a", "2020-01-02T10:00:00Z"}});
+    saved->saveArticle(item->articles()[0]);
+    CollectionEntityManager collections = makeCollections();
+    feeds->removeFeed(item);
+    saved->savedArticles.clear();
+    showAll(false);
+    collections.refreshCollections();
+    EXPECT_THAT(titlesOf(*collections.todayCollectionEntity), ElementsAre("a"));
+    EXPECT_THAT(titlesOf(*collections.unreadArticlesCollectionEntity), ElementsAre("a"));
+    EXPECT_THAT(titlesOf(*collections.savedArticlesCollectionEntity), ElementsAre("a"));
+    showAll(true);
+    collections.refreshCollections();
+    EXPECT_THAT(collections.todayCollectionEntity->entities(), IsEmpty());
+    EXPECT_THAT(collections.unreadArticlesCollectionEntity->entities(), IsEmpty());
+    EXPECT_THAT(collections.savedArticlesCollectionEntity->entities(), IsEmpty());
+}
+
 TEST_F(CollectionEntityManagerTest, ACollectionIsRefreshedWhenEitherOfItsKeysIsTrueAndNoOther) {
     const std::vector<std::vector<std::string_view>> keys = {
         {preference::showTodayCollectionInMenu, preference::showTodayCollectionInFeedsBrowser},
@@ -209,7 +227,17 @@ TEST_F(CollectionEntityManagerTest, ARefreshWithoutALibraryEndsTheProcess) {
     CollectionEntityManager collections = makeCollections();
     feeds.reset();
     ::testing::FLAGS_gtest_death_test_style = "threadsafe";
-    EXPECT_DEATH((removeFolder(), collections.refreshCollections()), "Fatal error: ");
+    EXPECT_DEATH((removeFolder(), collections.todayCollectionEntity->refresh()), "Fatal error: The articles of today need a library");
+    EXPECT_DEATH(
+        (removeFolder(), collections.unreadArticlesCollectionEntity->refresh()), "Fatal error: The unread articles need a library");
+}
+
+TEST_F(CollectionEntityManagerTest, ARefreshWithoutTheSavedArticlesEndsTheProcess) {
+    CollectionEntityManager collections = makeCollections();
+    saved.reset();
+    ::testing::FLAGS_gtest_death_test_style = "threadsafe";
+    EXPECT_DEATH((removeFolder(), collections.savedArticlesCollectionEntity->refresh()),
+        "Fatal error: The collection of saved articles needs their manager");
 }
 
 } // namespace

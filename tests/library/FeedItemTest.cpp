@@ -500,6 +500,26 @@ TEST_F(FeedItemTest, EndsItsTimerAndTellsOfItsEnd) {
     EXPECT_EQ(RunLoop::main().nextDeadline(), RunLoop::Time::max());
 }
 
+TEST_F(FeedItemTest, EndsWithItsArticlesBeforeItTellsOfItsEnd) {
+    auto item = makeItem("Name");
+    parse(*item, rss({{"A", ""}, {"B", ""}}));
+    delegate->calls.clear();
+    takeLines();
+    item.reset();
+    EXPECT_THAT(takeLines(), ElementsAre("Removing FeedItemArticle", "Removing FeedItemArticle", "Removing FeedItem: Name"));
+}
+
+TEST_F(FeedItemTest, EndsTheArticlesOfTheParseBefore) {
+    const auto item = makeItem();
+    parse(*item, rss({{"A", ""}}));
+    const auto held = item->articles();
+    parse(*item, rss({{"B", ""}}));
+    delegate->calls.clear();
+    takeLines();
+    parse(*item, rss({{"C", ""}}));
+    EXPECT_THAT(takeLines(), ElementsAre("Removing FeedItemArticle")) << "the first is held by others";
+}
+
 TEST_F(FeedItemTest, EndsOnTheMainThreadWhereverItIsLetGoLast) {
     auto item = makeItem("Last");
     takeLines();

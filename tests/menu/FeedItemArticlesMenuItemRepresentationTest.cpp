@@ -128,6 +128,20 @@ TEST_F(FeedItemArticlesMenuItemRepresentationTest, ShowsTheSharedIconForAnArticl
     EXPECT_EQ(item()->image(), Image::defaultFeedIcon().resized({16, 16}));
 }
 
+TEST_F(FeedItemArticlesMenuItemRepresentationTest, ShowsTheIconOfAFeedThatHasLeftTheLibrary) {
+    feed->setFeedImageData("icon");
+    manager->removeFeed(feed);
+    EXPECT_EQ(item()->image(), Image::withData("icon").resized({16, 16}));
+}
+
+TEST_F(FeedItemArticlesMenuItemRepresentationTest, SharesTheIconAmongTheArticlesOfAFeed) {
+    feed->setFeedImageData("icon");
+    parse(*feed, {"A", "B"});
+    const auto made = configured();
+    const auto& items = made->submenu()->items();
+    EXPECT_EQ(&items.at(0)->image()->data(), &items.at(1)->image()->data());
+}
+
 TEST_F(FeedItemArticlesMenuItemRepresentationTest, ShowsTheKindOfTheLastEnclosureThatIsHeardOrSeen) {
     EXPECT_EQ(imageOf({Kind::audio}), Image::named("feed_audeo"));
     EXPECT_EQ(imageOf({Kind::video}), Image::named("feed_video"));
@@ -137,8 +151,9 @@ TEST_F(FeedItemArticlesMenuItemRepresentationTest, ShowsTheKindOfTheLastEnclosur
 }
 
 TEST_F(FeedItemArticlesMenuItemRepresentationTest, ShowsWhatWasTrueWhenItWasConfigured) {
+    const auto made = std::make_shared<FeedItemArticlesMenuItemRepresentation>(feed->articles(), false, rebuild());
     feed->setFeedImageData("icon");
-    const auto made = configured();
+    made->configure();
     markRead(*feed, 0);
     feed->setFeedImageData(std::nullopt);
     set(preference::allowFeedArticlePreview, false);

@@ -13,17 +13,6 @@ using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 using ::testing::SizeIs;
 
-/// Makes an empty menu, and counts.
-class CountingSource : public SubmenuSource {
-public:
-    std::shared_ptr<Menu> makeSubmenu(const MenuItem&) override {
-        ++count;
-        return std::make_shared<Menu>();
-    }
-
-    int count = 0;
-};
-
 /// Appends one item, and counts.
 class OneItemSource : public MenuItemSource {
 public:
@@ -36,48 +25,23 @@ public:
     std::shared_ptr<MenuItem> item = std::make_shared<MenuItem>();
 };
 
-TEST(MenuItemTest, BeginsEnabledAndUnmarked) {
-    MenuItem item("Title", "do:");
-    EXPECT_EQ(item.title(), "Title");
-    EXPECT_EQ(item.action(), "do:");
-    EXPECT_TRUE(item.isEnabled());
-    EXPECT_FALSE(item.state());
-    EXPECT_FALSE(item.isSeparator());
-    EXPECT_FALSE(item.hasTarget());
-    EXPECT_FALSE(item.hasSubmenu());
-    EXPECT_EQ(item.submenu(), nullptr);
-    EXPECT_EQ(item.menu(), nullptr);
-}
+/// Adds the same observer at every change of the items.
+class AddingObserver : public MenuObserver {
+public:
+    void menuDidChange(Menu& menu) override { menu.addObserver(added); }
+    void menuItemDidChange(Menu&, MenuItem&) override {}
 
-TEST(MenuItemTest, MakesItsSubmenuWhenSomebodyLooks) {
-    const auto source = std::make_shared<CountingSource>();
-    MenuItem item;
-    item.setSubmenuSource(source);
-    EXPECT_TRUE(item.hasSubmenu());
-    EXPECT_EQ(source->count, 0);
-    const auto submenu = item.submenu();
-    EXPECT_NE(submenu, nullptr);
-    EXPECT_EQ(item.submenu(), submenu);
-    EXPECT_EQ(source->count, 1);
-}
+    std::shared_ptr<MenuObserverFake> added = std::make_shared<MenuObserverFake>();
+};
 
-TEST(MenuItemTest, HasNoSubmenuWhoseSourceIsGone) {
-    MenuItem item;
-    item.setSubmenuSource(std::make_shared<CountingSource>());
-    EXPECT_FALSE(item.hasSubmenu());
-    EXPECT_EQ(item.submenu(), nullptr);
-}
+/// Appends nothing, but lets an observer watch the menu.
+class ObservedSource : public MenuItemSource {
+public:
+    explicit ObservedSource(std::weak_ptr<MenuObserver> menuObserver) : observer(std::move(menuObserver)) {}
+    void appendItems(Menu& menu) override { menu.addObserver(observer); }
 
-TEST(MenuItemTest, ReplacesASourceByASubmenu) {
-    const auto source = std::make_shared<CountingSource>();
-    const auto submenu = std::make_shared<Menu>();
-    MenuItem item;
-    item.setSubmenuSource(source);
-    item.setSubmenu(submenu);
-    EXPECT_EQ(item.submenu(), submenu);
-    item.setSubmenu(nullptr);
-    EXPECT_FALSE(item.hasSubmenu());
-}
+    std::weak_ptr<MenuObserver> observer;
+};
 
 TEST(MenuTest, HoldsItsItemsInOrder) {
     Menu menu;
@@ -146,6 +110,22 @@ TEST(MenuTest, HandsItemsThatAreStillToBeMadeToAnother) {
     EXPECT_THAT(menu.items(), ElementsAre(source->item));
 }
 
+TEST(MenuTest, PutsItemsThatAreStillToBeMadeBehindAllThatItIsHanded) {
+    const auto observer = std::make_shared<MenuObserverFake>();
+    const auto source = std::make_shared<OneItemSource>();
+    const auto first = std::make_shared<MenuItem>();
+    const auto second = std::make_shared<MenuItem>();
+    Menu menu;
+    Menu other;
+    menu.addObserver(observer);
+    other.addItem(first);
+    other.addItem(second);
+    other.setItemSource(source);
+    menu.moveItems(other);
+    EXPECT_THAT(menu.items(), ElementsAre(first, second, source->item));
+    EXPECT_THAT(observer->log, ElementsAre("menu 1", "menu 2", "menu 3")) << "the observer looks each time";
+}
+
 TEST(MenuTest, MakesNoItemsThatWereRemovedOrWhoseSourceIsGone) {
     auto source = std::make_shared<OneItemSource>();
     Menu menu;
@@ -199,6 +179,40 @@ TEST(MenuTest, TellsItsObserversOfEveryChange) {
     menu.removeAllItems();
     item->setTitle("Outside");
     EXPECT_THAT(observer->log, ElementsAre("menu 0"));
+}
+
+TEST(MenuTest, LetsItsObserversLookWhileTheyAreTold) {
+    const auto first = std::make_shared<MenuObserverFake>();
+    const auto second = std::make_shared<MenuObserverFake>();
+    const auto source = std::make_shared<OneItemSource>();
+    Menu menu;
+    menu.addObserver(first);
+    menu.addObserver(second);
+    menu.setItemSource(source);
+    EXPECT_THAT(first->log, ElementsAre("menu 1"));
+    EXPECT_THAT(second->log, ElementsAre("menu 1"));
+    EXPECT_EQ(source->count, 1);
+}
+
+TEST(MenuTest, LetsItsObserversAddOthers) {
+    const auto observer = std::make_shared<AddingObserver>();
+    Menu menu;
+    menu.addObserver(observer);
+    const auto item = std::make_shared<MenuItem>("Item");
+    menu.addItem(item);
+    EXPECT_THAT(observer->added->log, IsEmpty());
+    item->setTitle("Title");
+    EXPECT_THAT(observer->added->log, ElementsAre("item Title"));
+}
+
+TEST(MenuTest, KeepsAnObserverThatIsAddedWhileItemsAreMade) {
+    const auto observer = std::make_shared<MenuObserverFake>();
+    const auto source = std::make_shared<ObservedSource>(observer);
+    Menu menu;
+    menu.setItemSource(source);
+    EXPECT_THAT(menu.items(), IsEmpty());
+    menu.addItem(std::make_shared<MenuItem>());
+    EXPECT_THAT(observer->log, ElementsAre("menu 1"));
 }
 
 TEST(MenuTest, TellsNobodyOfAStateThatStays) {

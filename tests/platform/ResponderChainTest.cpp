@@ -39,6 +39,17 @@ TEST_F(ResponderChainTest, AsksThoseWhoWereSetLast) {
     EXPECT_EQ(chain.handler("close:"), application);
 }
 
+TEST_F(ResponderChainTest, AsksTheNextChainAfterItsOwnHandlers) {
+    const auto applicationChain = std::make_shared<ResponderChain>(chain);
+    const auto pane = std::make_shared<ActionHandlerFake>(std::set<std::string, std::less<>>{"close:"});
+    ResponderChain panes({pane});
+    EXPECT_FALSE(panes.perform(Action{"quit:"}));
+    panes.setNext(applicationChain);
+    EXPECT_EQ(panes.handler("close:"), pane);
+    EXPECT_EQ(panes.handler("quit:"), application);
+    EXPECT_EQ(panes.handler("unknown:"), nullptr);
+}
+
 TEST_F(ResponderChainTest, SendsAnItemsActionWithTheItemAsItsSender) {
     const auto represented = std::make_shared<MenuItem>();
     const auto sender = item("quit:");
