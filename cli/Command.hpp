@@ -13,7 +13,7 @@
 
 namespace brindle {
 
-/// What a command works with.
+/// What a command works with. Thread: main.
 struct CommandContext {
     const Arguments& arguments; ///< the command's own; their number is checked
     const Settings& settings;
@@ -21,7 +21,7 @@ struct CommandContext {
     StandardError& standardError;
 };
 
-/// One command of the program: how it is called, and what it does.
+/// One command of the program: how it is called, and what it does. Thread: main.
 struct Command {
     static constexpr std::size_t anyNumber = std::numeric_limits<std::size_t>::max();
 

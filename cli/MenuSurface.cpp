@@ -45,7 +45,12 @@ public:
 
     bool respondsTo(std::string_view) const override { return true; }
     void perform(const Action&) override {}
-    bool validateMenuItem(const MenuItem& item) const override { return isMenuItemValid(item, _counts, false); }
+    bool validateMenuItem(const MenuItem& item) const override {
+        const auto count = [this](const std::shared_ptr<Feed>& feed) {
+            return feed ? _counts.of(*feed).value_or(ArticleCounts::Count()) : _counts.total();
+        };
+        return isMenuItemValid(item, count, false);
+    }
 
 private:
     const ArticleCounts _counts;

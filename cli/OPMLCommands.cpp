@@ -66,6 +66,15 @@ CommandResult importFiles(const CommandContext& context) {
     return reader->failures().empty() ? ExitStatus::done : ExitStatus::failed;
 }
 
+CommandResult writeFile(const FeedsManager::Feeds& feeds, const std::filesystem::path& file, bool keepsGroups) {
+    if (FeedsOPMLWriter::exportFeeds(feeds, file, keepsGroups))
+        return ExitStatus::done;
+    if (!FeedsOPMLWriter::document(feeds, file.stem().string(), keepsGroups))
+        return failure("a name in the library, or that of the file, is not UTF-8");
+    // The console says why.
+    return failure("the library could not be written to " + file.string());
+}
+
 CommandResult exportFile(const CommandContext& context) {
     const auto library = Library::open(context.settings, Library::Purpose::reading, Library::Network::none);
     if (!library)
@@ -74,11 +83,8 @@ CommandResult exportFile(const CommandContext& context) {
     (*library)->bringBack(feeds);
     const std::string& file = context.arguments.plain.front();
     const bool keepsGroups = !context.arguments.has("flat");
-    if (file != "-") {
-        // The console says why.
-        const bool isWritten = FeedsOPMLWriter::exportFeeds(feeds, file, keepsGroups);
-        return isWritten ? CommandResult(ExitStatus::done) : failure("the library could not be written to " + file);
-    }
+    if (file != "-")
+        return writeFile(feeds, file, keepsGroups);
     const auto document = FeedsOPMLWriter::document(feeds, standardOutputTitle, keepsGroups);
     if (!document)
         return failure("a name in the library is not UTF-8");

@@ -12,17 +12,17 @@ namespace brindle {
 
 namespace {
 
-void print(const CommandContext& context, bool asks, const std::vector<URL>& urls) {
+void print(const CommandContext& context, bool asks, const std::vector<OpenedArticle>& articles) {
     if (!context.settings.json) {
-        for (const URL& url : urls)
-            context.output.document(url.absoluteString());
+        for (const OpenedArticle& opened : articles)
+            context.output.document(opened.url.absoluteString());
         return;
     }
     nlohmann::ordered_json json = nlohmann::ordered_json::object();
     json["asks"] = asks;
     json["urls"] = nlohmann::ordered_json::array();
-    for (const URL& url : urls)
-        json["urls"].push_back(url.absoluteString());
+    for (const OpenedArticle& opened : articles)
+        json["urls"].push_back(opened.url.absoluteString());
     context.output.json(json);
 }
 
@@ -44,7 +44,7 @@ CommandResult run(const CommandContext& context) {
     }
     (*library)->bringBack(feed ? FeedsManager::Feeds{feed} : (*library)->manager().feeds);
     const auto articles = (*library)->manager().articles(ArticleStateFilter::unread, feed);
-    print(context, asksBeforeOpening(articles.size(), **defaults), openedURLs(articles));
+    print(context, asksBeforeOpening(articles.size(), **defaults), openedArticles(articles));
     return ExitStatus::done;
 }
 

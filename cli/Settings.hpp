@@ -11,7 +11,7 @@
 
 namespace brindle {
 
-/// What the global options say.
+/// What the global options say. Thread: main.
 struct Settings {
     bool json = false;
     std::optional<std::filesystem::path> supportDirectory; ///< as given; absent: the desktop program's

@@ -46,7 +46,7 @@ ArticleSearch::Articles ArticleSearch::articles(const FeedsManager& feedsManager
         return found;
     prepare(feedsManager);
     for (const std::shared_ptr<FeedItem>& item : FeedsManager::items(feedsManager.feeds)) {
-        const Titles& titles = _titles.at(item.get());
+        const Titles& titles = _titles[item.get()];
         std::size_t begin = 0;
         for (std::size_t i = 0; i < titles.ends.size(); ++i) {
             const std::string_view title = std::string_view(titles.text).substr(begin, titles.ends[i] - begin);

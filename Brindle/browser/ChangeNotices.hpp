@@ -1,6 +1,5 @@
 #pragma once
 
-#include "Brindle/library/FeedsManager.hpp"
 #include "foundation/NotificationCenter.hpp"
 #include "foundation/Object.hpp"
 
@@ -21,11 +20,10 @@ inline constexpr std::string_view didUpdateFeedItemImage = "UISyncDispatcherDidU
 /// The preferences show other collections than before.
 inline constexpr std::string_view didUpdateCollections = "PreferencesCollectionsViewControllerDidUpdateCollections";
 
-/// Posts a notice of `object`, which `subject` gives to its observers. Thread: main.
+/// Posts a notice of `object`, which also stands in the user info: "object", a `std::shared_ptr<Object>`. Thread: main.
 void post(std::string_view name, const std::shared_ptr<Object>& object);
 
-/// What a notice is about: the object that `post` was given; for a notice by other means, which tells an address alone, the entry of the
-/// library at it. Null where there is neither. Thread: main.
-std::shared_ptr<Object> subject(const Notification& notification, const FeedsManager& feedsManager);
+/// What a notice is about, by its user info. Null where that does not say. Thread: main.
+std::shared_ptr<Object> subject(const Notification& notification);
 
 } // namespace brindle::notices

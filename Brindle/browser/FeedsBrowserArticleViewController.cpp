@@ -3,7 +3,6 @@
 #include "Brindle/browser/ArticlePage.hpp"
 #include "Brindle/browser/BrowserActions.hpp"
 #include "Brindle/browser/ChangeNotices.hpp"
-#include "Brindle/browser/SavedArticleTest.hpp"
 #include "Brindle/library/PreferenceKeys.hpp"
 #include "foundation/LocalizedStrings.hpp"
 #include "foundation/RunLoop.hpp"
@@ -108,7 +107,7 @@ void FeedsBrowserArticleViewController::updateControls() {
     titleLabel.setStringValue(shown ? shown->entry->title : std::string());
     showOriginalMenuItem->setState(showsOriginal());
     const std::string saveTitle =
-        localized(shown && isSaved(*shown, *_environment.savedArticlesManager) ? "Don't Keep Article" : "Keep Article");
+        localized(shown && _environment.savedArticlesManager->isSaved(*shown) ? "Don't Keep Article" : "Keep Article");
     saveButton.setTitle(saveTitle);
     saveMenuItem->setTitle(saveTitle);
 }
@@ -142,7 +141,7 @@ void FeedsBrowserArticleViewController::handleSave() {
     if (!shown)
         return;
     SavedArticlesManager& manager = *_environment.savedArticlesManager;
-    const bool wasSaved = isSaved(*shown, manager);
+    const bool wasSaved = manager.isSaved(*shown);
     if (wasSaved)
         manager.unsaveArticle(*shown);
     else

@@ -5,11 +5,13 @@
 #include "Brindle/browser/ChangeNotices.hpp"
 #include "Brindle/browser/FeedsOutlineCells.hpp"
 #include "Brindle/browser/ImageTableCellView.hpp"
-#include "Brindle/browser/SavedArticleTest.hpp"
 #include "foundation/RunLoop.hpp"
 #include "platform/ObjectSender.hpp"
 
 #include <algorithm>
+#include <string>
+#include <unordered_map>
+#include <unordered_set>
 #include <utility>
 
 namespace brindle {
@@ -20,6 +22,34 @@ using Self = FeedsBrowserFeedArticlesViewController;
 
 constexpr double rowHeight = 32.0;
 
+bool isAtOrBelow(const std::shared_ptr<Feed>& feed, const std::shared_ptr<Feed>& group) {
+    auto each = feed;
+    while (each && each != group)
+        each = each->parent.lock();
+    return each != nullptr;
+}
+
+/// The list with what a feed has by the same keys in place of those of its articles that a parse has replaced. What it has no more stays.
+Self::Articles renewed(Self::Articles list, const std::shared_ptr<FeedItem>& feed) {
+    const std::weak_ptr<FeedItem> parsed = feed;
+    const auto isOfFeed = [&](const std::shared_ptr<FeedItemArticle>& article) {
+        return !article->feedItem.owner_before(parsed) && !parsed.owner_before(article->feedItem);
+    };
+    if (std::none_of(list.begin(), list.end(), isOfFeed))
+        return list;
+    const std::unordered_set<std::shared_ptr<FeedItemArticle>> present(feed->articles().begin(), feed->articles().end());
+    std::unordered_map<std::string, std::shared_ptr<FeedItemArticle>> byKey;
+    for (const std::shared_ptr<FeedItemArticle>& article : feed->articles())
+        byKey.emplace(article->articleStateKey(), article);
+    for (std::shared_ptr<FeedItemArticle>& article : list) {
+        if (!isOfFeed(article) || present.contains(article))
+            continue;
+        if (const auto known = byKey.find(article->articleStateKey()); known != byKey.end())
+            article = known->second;
+    }
+    return list;
+}
+
 } // namespace
 
 std::shared_ptr<Self> FeedsBrowserFeedArticlesViewController::make(FeedsBrowserEnvironment environment) {
@@ -29,7 +59,7 @@ std::shared_ptr<Self> FeedsBrowserFeedArticlesViewController::make(FeedsBrowserE
     for (const std::string_view name : {notices::didUpdateFeed, notices::didReceiveNewArticles}) {
         controller->_tokens.push_back(center.addObserver(name, nullptr, [weak](const Notification& notification) {
             if (const auto self = weak.lock())
-                self->didUpdateFeed(notices::subject(notification, *self->_environment.feedsManager));
+                self->didUpdateFeed(notices::subject(notification));
         }));
     }
     for (const std::string_view name :
@@ -93,7 +123,7 @@ void FeedsBrowserFeedArticlesViewController::setArticles(Articles articles, std:
     reloadArticles();
 }
 
-/// Lists other articles of the same feed, and reloads the rows that differ.
+/// Lists other articles in place of those there are, and reloads the rows that differ.
 void FeedsBrowserFeedArticlesViewController::updateList(Articles articles) {
     if (articles.size() != _feedItemArticles.size())
         return setArticles(std::move(articles), _feed);
@@ -113,8 +143,16 @@ void FeedsBrowserFeedArticlesViewController::didUpdateFeed(const std::shared_ptr
     if (const auto article = std::dynamic_pointer_cast<FeedItemArticle>(subject))
         return reloadRowOf(*article);
     const auto feed = std::dynamic_pointer_cast<Feed>(subject);
-    if (feed && feed == _feed.lock())
-        updateList(_environment.feedsManager->articles(ArticleStateFilter::any, feed));
+    const auto shown = _feed.lock();
+    if (!feed)
+        return;
+    if (shown && (isAtOrBelow(feed, shown) || isAtOrBelow(shown, feed)))
+        return updateList(_environment.feedsManager->articles(ArticleStateFilter::any, shown));
+    if (shown)
+        return;
+    // Other lists keep what they have, though with the articles as they are now: so what a person reads does not move or go.
+    const auto item = std::dynamic_pointer_cast<FeedItem>(feed);
+    updateList(item ? renewed(_feedItemArticles, item) : _feedItemArticles);
 }
 
 void FeedsBrowserFeedArticlesViewController::reloadRowOf(const FeedItemArticle& article) {
@@ -162,7 +200,9 @@ double FeedsBrowserFeedArticlesViewController::heightOfRow(std::size_t) const {
 }
 
 std::shared_ptr<TableCellView> FeedsBrowserFeedArticlesViewController::viewFor(std::string_view column, std::size_t row) const {
-    const std::shared_ptr<FeedItemArticle>& article = _feedItemArticles.at(row);
+    if (row >= _feedItemArticles.size())
+        return nullptr;
+    const std::shared_ptr<FeedItemArticle>& article = _feedItemArticles[row];
     if (column == sourceColumn)
         return sourceCell(*article);
     if (column == statusColumn)
@@ -187,7 +227,7 @@ std::shared_ptr<TableCellView> FeedsBrowserFeedArticlesViewController::nameCell(
     const auto cell = std::make_shared<ArticleNameTableCellView>();
     cell->article = article;
     cell->nameTextField.setStringValue(article->entry->title);
-    cell->savedImageView.setHidden(!isSaved(*article, *_environment.savedArticlesManager));
+    cell->savedImageView.setHidden(!_environment.savedArticlesManager->isSaved(*article));
     return cell;
 }
 

@@ -5,6 +5,22 @@
 
 namespace brindle {
 
+std::shared_ptr<FeedsBrowserSplitViewController> FeedsBrowserSplitViewController::make(FeedsBrowserEnvironment environment,
+    std::shared_ptr<RemoveFeedToolbarItem> removeFeedToolbarItem, std::shared_ptr<WebContainerView> webContainerView) {
+    const auto chain = std::make_shared<ResponderChain>();
+    chain->setNext(std::exchange(environment.responderChain, chain));
+    auto split = std::make_shared<FeedsBrowserSplitViewController>(
+        FeedsBrowserFeedsViewController::make(environment, std::move(removeFeedToolbarItem)),
+        FeedsBrowserFeedArticlesViewController::make(environment),
+        FeedsBrowserArticleViewController::make(environment, std::move(webContainerView), false));
+    chain->setHandlers(split->responders());
+    return split;
+}
+
+ResponderChain::Handlers FeedsBrowserSplitViewController::responders() {
+    return {weak_from_this(), _feedsViewController, _articleViewController};
+}
+
 bool FeedsBrowserSplitViewController::respondsTo(std::string_view action) const {
     return action == browseractions::showFeed || action == browseractions::showCollectionArticles || action == browseractions::showArticle;
 }

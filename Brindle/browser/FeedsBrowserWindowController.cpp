@@ -85,6 +85,7 @@ void FeedsBrowserWindowController::controlTextDidChange() {
     FeedsBrowserFeedArticlesViewController& articles = _splitViewController->articlesViewController();
     _splitViewController->splitViewItems.front().setCollapsed(!term.empty());
     _splitViewController->articleViewController().showArticle(nullptr);
+    // Kept as is: no feed is selected while a collection is, so that the pane stays empty when the term is gone.
     if (term.empty())
         articles.showFeed(_splitViewController->feedsViewController().selectedFeed());
     else

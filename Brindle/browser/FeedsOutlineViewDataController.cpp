@@ -61,7 +61,7 @@ void FeedsOutlineViewDataController::observe(std::string_view name, Reaction rea
         name, nullptr, [controller = weak_from_this(), reaction](const Notification& notification) {
             assertMainThread();
             if (const auto self = controller.lock())
-                (self.get()->*reaction)(notices::subject(notification, *self->_feedsManager));
+                (self.get()->*reaction)(notices::subject(notification));
         }));
 }
 
@@ -140,12 +140,13 @@ std::size_t FeedsOutlineViewDataController::numberOfChildren(const OutlineItem& 
 }
 
 OutlineItem FeedsOutlineViewDataController::child(std::size_t index, const OutlineItem& item) const {
+    if (index >= numberOfChildren(item))
+        return nullptr;
     if (!item)
-        return _collections.at(index);
+        return _collections[index];
     if (const auto* feeds = feedsBelow(item))
-        return feeds->at(index);
-    const auto section = std::dynamic_pointer_cast<CollectionGroup>(item);
-    return section ? section->items.at(index) : nullptr;
+        return (*feeds)[index];
+    return std::static_pointer_cast<CollectionGroup>(item)->items[index];
 }
 
 bool FeedsOutlineViewDataController::isItemExpandable(const OutlineItem& item) const {

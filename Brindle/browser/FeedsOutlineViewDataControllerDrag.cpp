@@ -77,6 +77,8 @@ std::size_t FeedsOutlineViewDataController::move(
     const bool leavesPlaceAbove = oldIndex < index;
     if (leavesPlaceAbove)
         --index;
+    // Kept as is: a feed loses its timer with its place and is not started again, so that it rests until updating is switched or the next
+    // launch.
     _feedsManager->removeFeed(feed, source);
     _feedsManager->addFeed(feed, static_cast<std::ptrdiff_t>(index), target);
     if (const auto view = outlineView.lock()) {

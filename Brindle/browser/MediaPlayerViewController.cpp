@@ -17,14 +17,16 @@ void MediaPlayerViewController::playURL(const URL& url) {
     if (!view)
         return;
     _hasToldFailure = false;
-    auto player = view->player();
-    if (player) {
+    if (const auto player = view->player()) {
         player->replaceCurrentItem(url);
-    } else {
-        player = view->makePlayer(url);
-        view->setPlayer(player);
+        player->setObserver(weak_from_this());
+        return;
     }
+    const auto player = view->makePlayer(url);
+    view->setPlayer(player);
     player->setObserver(weak_from_this());
+    // It may have failed, or be ready, before anybody could hear of it.
+    playerStatusDidChange();
 }
 
 void MediaPlayerViewController::stopPlayer() {

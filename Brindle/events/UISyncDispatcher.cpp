@@ -14,6 +14,11 @@ std::shared_ptr<FeedItem> shared(FeedItem& feedItem) {
     return std::static_pointer_cast<FeedItem>(feedItem.shared_from_this());
 }
 
+void post(std::string_view name, const std::shared_ptr<FeedItem>& item, Notification::UserInfo userInfo) {
+    userInfo.emplace("object", std::shared_ptr<Object>(item));
+    NotificationCenter::defaultCenter().post(name, item.get(), std::move(userInfo));
+}
+
 } // namespace
 
 UISyncDispatcher::UISyncDispatcher(
@@ -42,7 +47,7 @@ void UISyncDispatcher::feedItemDidFinishParsing(FeedItem& feedItem, const std::v
     if (!newArticles.empty())
         notifier()->notifyNewArticles(item, newArticles);
     refreshInterface();
-    NotificationCenter::defaultCenter().post(didReceiveNewArticlesNotification, &feedItem, {{"newArticles", !newArticles.empty()}});
+    post(didReceiveNewArticlesNotification, item, {{"newArticles", !newArticles.empty()}});
 }
 
 void UISyncDispatcher::feedItemDidDiscoverFeedItems(FeedItem&, const std::vector<std::shared_ptr<FeedItem>>&) {}
@@ -59,7 +64,7 @@ void UISyncDispatcher::feedItemHasImageData(FeedItem& feedItem) {
         return;
     const std::shared_ptr<FeedItem> item = shared(feedItem);
     refreshInterface();
-    NotificationCenter::defaultCenter().post(didUpdateFeedItemImageNotification, item.get(), {{"image", *image}});
+    post(didUpdateFeedItemImageNotification, item, {{"image", *image}});
 }
 
 void UISyncDispatcher::feedItemIsInvalid(FeedItem&) {}

@@ -13,12 +13,13 @@
 namespace brindle {
 
 /// Receives what all feeds of the library report, and tells each thing to the notifier, to what shows the library, and, on the default
-/// notification centre, to the open windows. At once and in full: nothing is gathered. Thread: main.
+/// notification centre, to the open windows. At once and in full: nothing is gathered. The object of each notice is the `FeedItem`, which
+/// stands in its user info as well: "object", a `std::shared_ptr<Object>`. Thread: main.
 class UISyncDispatcher : public FeedItemDelegate {
 public:
-    /// After each parse. The object is the `FeedItem`; user info: "newArticles", a bool, whether the parse brought any.
+    /// After each parse. User info: "newArticles", a bool, whether the parse brought any.
     static constexpr std::string_view didReceiveNewArticlesNotification = "UISyncDispatcherDidReceiveNewArticlesNotification";
-    /// When an icon came that can be shown. The object is the `FeedItem`; user info: "image", an `Image`.
+    /// When an icon came that can be shown. User info: "image", an `Image`.
     static constexpr std::string_view didUpdateFeedItemImageNotification = "UISyncDispatcherDidUpdateFeedItemImage";
 
     /// A notifier or a refresher that is gone when it is needed is fatal.

@@ -161,10 +161,12 @@ void AppDelegate::perform(const Action& action) {
 }
 
 bool AppDelegate::validateMenuItem(const MenuItem& item) const {
-    // Thousands of items are asked about that no count matters for.
-    const bool areCounted = _feedsManager && dependsOnArticleCounts(item.action());
-    const ArticleCounts counts(areCounted ? _feedsManager->feeds : FeedsManager::Feeds());
-    return isMenuItemValid(item, counts, _windows->isFeedsBrowserVisible());
+    const auto count = [this](const std::shared_ptr<Feed>& feed) {
+        if (feed)
+            return ArticleCounts({feed}).total();
+        return _feedsManager ? ArticleCounts(_feedsManager->feeds).total() : ArticleCounts::Count();
+    };
+    return isMenuItemValid(item, count, _windows->isFeedsBrowserVisible());
 }
 
 void AppDelegate::machineDidWake() {

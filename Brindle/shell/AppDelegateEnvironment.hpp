@@ -28,7 +28,7 @@
 
 namespace brindle {
 
-/// What the desktop supplies to the application. Nothing of it is null but `previews`.
+/// What the desktop supplies to the application. Nothing of it is null but `previews`. Thread: main.
 struct AppDelegateEnvironment {
     std::filesystem::path supportDirectory; ///< `applicationSupportDirectory`
     std::filesystem::path resources;        ///< the folder of the program's resources

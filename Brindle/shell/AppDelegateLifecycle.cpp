@@ -97,6 +97,8 @@ void AppDelegate::applicationWillTerminate() {
     for (const Event event : observedEvents)
         _environment.systemEvents->removeObserver(event);
     _environment.systemEvents->removeURLEventHandler();
+    // Kept as is: also where the program ends at the question of the first launch, before anything is loaded; the news feed alone then
+    // takes the place of a library that is stored.
     feedsManager()->save();
     savedArticlesManager()->save();
 }

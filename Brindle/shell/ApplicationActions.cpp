@@ -45,11 +45,8 @@ void ApplicationActions::openAllUnreadArticles(const Action& action) {
 
 void ApplicationActions::openArticles(const Articles& articles) {
     std::vector<std::shared_ptr<FeedItem>> changed;
-    for (const std::shared_ptr<FeedItemArticle>& article : articles) {
-        const auto url = article->entry->preferredLinkURL();
-        if (!url)
-            continue;
-        _environment.workspace->openURL(*url);
+    for (const auto& [article, url] : openedArticles(articles)) {
+        _environment.workspace->openURL(url);
         const auto feedItem = article->feedItem.lock();
         if (!feedItem || article->entry->isRead())
             continue;

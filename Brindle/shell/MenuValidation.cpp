@@ -2,36 +2,19 @@
 
 #include "Brindle/menu/MenuActions.hpp"
 
-#include <memory>
 #include <string_view>
 
 namespace brindle {
 
-namespace {
-
-ArticleCounts::Count representedCount(const MenuItem& item, const ArticleCounts& counts) {
-    const auto feed = std::dynamic_pointer_cast<Feed>(item.representedObject());
-    if (!feed)
-        return counts.total();
-    const auto count = counts.of(*feed);
-    // One that has left the library since the menu was made.
-    return count ? *count : ArticleCounts({feed}).total();
-}
-
-} // namespace
-
-bool dependsOnArticleCounts(std::string_view action) {
-    return action == actions::markArticlesAsRead || action == actions::markArticlesAsUnread || action == actions::openAllUnreadArticles;
-}
-
-bool isMenuItemValid(const MenuItem& item, const ArticleCounts& counts, bool isFeedsBrowserVisible) {
+bool isMenuItemValid(const MenuItem& item, const CountArticles& count, bool isFeedsBrowserVisible) {
     const std::string_view action = item.action();
+    const auto represented = [&] { return count(std::dynamic_pointer_cast<Feed>(item.representedObject())); };
     if (action == actions::showFeedsBrowser)
         return !isFeedsBrowserVisible;
     if (action == actions::markArticlesAsRead || action == actions::openAllUnreadArticles)
-        return representedCount(item, counts).unread > 0;
+        return represented().unread > 0;
     if (action == actions::markArticlesAsUnread)
-        return representedCount(item, counts).read > 0;
+        return represented().read > 0;
     return true;
 }
 

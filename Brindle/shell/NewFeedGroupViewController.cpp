@@ -11,6 +11,7 @@ namespace brindle {
 void NewFeedGroupViewController::prepare() {
     assertMainThread();
     setTitle(feedGroup ? localized("Edit Feed Group") : localized("New Feed Group"));
+    nameTextField.setEditable(true);
     nameTextField.setStringValue(feedGroup ? feedGroup->name() : std::string());
 }
 

@@ -56,6 +56,7 @@ void NewFeedItemViewController::selectRefreshRate(std::int64_t minutes) {
 void NewFeedItemViewController::prepare() {
     assertMainThread();
     setTitle(feedItem ? localized("Edit Feed") : localized("New Feed"));
+    nameTextField.setEditable(true);
     nameTextField.setStringValue(feedItem ? feedItem->name() : std::string());
     urlTextField.setStringValue(feedItem ? feedItem->url().absoluteString() : std::string());
     urlTextField.setEditable(!feedItem);

@@ -72,9 +72,9 @@ void OPMLActions::showExport() {
     assertMainThread();
     const FilePanels::SavePanel panel = {
         std::string(fileType), "Brindle feeds.opml", {localized("Without Groups"), localized("With Groups")}};
-    _panels->beginSavePanel(panel, [feedsManager = _feedsManager](const std::optional<fs::path>& file, std::size_t option) {
-        if (file)
-            FeedsOPMLWriter::exportFeeds(feedsManager->feeds, *file, option == withGroupsOption);
+    _panels->beginSavePanel(panel, [feedsManager = std::weak_ptr(_feedsManager)](const std::optional<fs::path>& file, std::size_t option) {
+        if (const auto manager = feedsManager.lock(); manager && file)
+            FeedsOPMLWriter::exportFeeds(manager->feeds, *file, option == withGroupsOption);
     });
 }
 

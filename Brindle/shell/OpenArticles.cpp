@@ -16,13 +16,13 @@ bool asksBeforeOpening(std::size_t articleCount, const UserDefaults& defaults) {
     return articleCount >= manyArticles && defaults.boolForKey(preference::warnWhenOpeningArticles);
 }
 
-std::vector<URL> openedURLs(const std::vector<std::shared_ptr<FeedItemArticle>>& articles) {
-    std::vector<URL> urls;
+std::vector<OpenedArticle> openedArticles(const std::vector<std::shared_ptr<FeedItemArticle>>& articles) {
+    std::vector<OpenedArticle> opened;
     for (const std::shared_ptr<FeedItemArticle>& article : articles) {
         if (auto url = article->entry->preferredLinkURL())
-            urls.push_back(*std::move(url));
+            opened.push_back({article, *std::move(url)});
     }
-    return urls;
+    return opened;
 }
 
 } // namespace brindle

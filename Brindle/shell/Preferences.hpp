@@ -10,14 +10,14 @@
 
 namespace brindle {
 
-/// What the defaults take from the desktop that the program runs on.
+/// What the defaults take from the desktop that the program runs on. Thread: any.
 struct PlatformDefaults {
     std::int64_t speechVoiceIndex = 0;
     double systemFontSize = 13; ///< points
     double menuFontSize = 14;   ///< points
 };
 
-/// One row of the table of preferences: what may stand under a key.
+/// One row of the table of preferences: what may stand under a key. Thread: any.
 struct Preference {
     enum class Kind {
         boolean,
@@ -32,19 +32,21 @@ struct Preference {
     std::optional<UserDefaults::Value> defaultValue; ///< absent: nothing is registered
 };
 
-/// "boolean", "integer", "text", "color", "number".
+/// "boolean", "integer", "text", "color", "number". Thread: any.
 std::string_view name(Preference::Kind kind);
 
-/// The one table of all preferences: those with a default in the order of registration, then those that are never registered.
+/// The one table of all preferences: those with a default in the order of registration, then those that are never registered. Thread:
+/// any.
 std::vector<Preference> preferences(const PlatformDefaults& platform = {});
 
 /// Registers all defaults; the first thing that the program does. Thread: main.
 void registerDefaults(UserDefaults& defaults, const PlatformDefaults& platform = {});
 
 /// The default of `speechVoiceIndex`: the place of the first voice that is the system's default one, 0 when there is none.
+/// Thread: any.
 std::int64_t speechVoiceIndex(std::string_view defaultVoice, const std::vector<std::string>& availableVoices);
 
-/// The name of the image that the status item shows.
+/// The name of the image that the status item shows. Thread: main.
 std::string statusIconName(const UserDefaults& defaults, bool hasUnreadArticles);
 
 } // namespace brindle

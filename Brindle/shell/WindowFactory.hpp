@@ -16,6 +16,8 @@ class WindowFactory {
 public:
     virtual ~WindowFactory() = default;
     virtual std::shared_ptr<SplashWindow> makeSplashWindow() = 0;
+    /// Its panes have a responder chain of their own (`FeedsBrowserSplitViewController::make`), and a feed can be revealed before the
+    /// window is shown for the first time.
     virtual std::shared_ptr<FeedsBrowserWindowController> makeFeedsBrowser(const FeedsBrowserEnvironment& environment) = 0;
     virtual std::shared_ptr<MediaPlayerWindowController> makeMediaPlayer() = 0;
     virtual std::shared_ptr<PreferencesWindowController> makePreferencesWindow(const PreferencesEnvironment& environment) = 0;

@@ -30,6 +30,10 @@ TEST(ArticlePageTest, EscapesNothing) {
     EXPECT_EQ(articlePage("<%content%>", "", "<script>1 &lt; 2</script>"), "<script>1 &lt; 2</script>");
 }
 
+TEST(ArticlePageTest, KeepsTheEndTagOfATitleInATitle) {
+    EXPECT_EQ(articlePage("<%title%>.", "a</title>b &amp; c", ""), "a</title>b & c.");
+}
+
 TEST(ArticlePageTest, TakesPlaceholdersInTitleAndContentForText) {
     EXPECT_EQ(articlePage("<%title%> <%content%>", "<%content%>", "<%title%>"), "<%content%> <%title%>");
 }

@@ -42,6 +42,16 @@ TEST_F(ArticlePreviewViewControllerTest, TakesTheSizeThatThePreferencesWant) {
     EXPECT_EQ(controller.textView.font(), (Font{"Serif", 20}));
 }
 
+TEST_F(ArticlePreviewViewControllerTest, SetsTheFontAlsoWithoutArticle) {
+    controller.textView.setFont({"Serif", 9});
+    controller.load();
+    EXPECT_EQ(controller.textView.font(), systemFont);
+    set(preference::useCustomFontSizeForPreview, true);
+    set(preference::customFontSizeForPreview, 20.0);
+    controller.load();
+    EXPECT_EQ(controller.textView.font(), (Font{"", 20}));
+}
+
 TEST_F(ArticlePreviewViewControllerTest, LeavesAFontOfThatSizeAlone) {
     set(preference::useCustomFontSizeForPreview, true);
     set(preference::customFontSizeForPreview, 20.0);

@@ -30,6 +30,7 @@ BrowserTest::~BrowserTest() {
     // What ends with the library prints lines.
     environment = {};
     collections.reset();
+    saved.reset();
     manager.reset();
     Console::redirect({});
 }

@@ -43,6 +43,17 @@ TEST_F(FeedsBrowserArticleViewControllerTest, StartsWithAnEmptyHiddenView) {
     EXPECT_TRUE(other->saveMenuItem->isEnabled());
 }
 
+TEST_F(FeedsBrowserArticleViewControllerTest, ShowsAnArticleThatItHasWhenItLoads) {
+    showsOriginal(true);
+    const auto other = make(true);
+    other->showArticle(article());
+    takeCalls();
+    other->viewDidLoad();
+    EXPECT_THAT(takeCalls(), ElementsAre("removeFromSuperview", "addWebView", "hide", "show", "load http://a.test/one 0 60"));
+    EXPECT_EQ(other->titleLabel.stringValue(), "one");
+    EXPECT_TRUE(other->showOriginalMenuItem->state());
+}
+
 TEST_F(FeedsBrowserArticleViewControllerTest, HasARowForNavigationUnlessItStandsAlone) {
     EXPECT_FALSE(controller->navigationContainerView.isHidden());
     const auto other = make(true);
@@ -126,6 +137,15 @@ TEST_F(FeedsBrowserArticleViewControllerTest, EnablesTheButtonsByTheHistory) {
     EXPECT_TRUE(controller->goForwardButton.isEnabled());
 }
 
+TEST_F(FeedsBrowserArticleViewControllerTest, BringsTheControlsUpToDateWhenAPageBeginsToLoad) {
+    controller->showArticle(article());
+    webView().hasBack = true;
+    saved->saveArticle(article());
+    controller->didStartProvisionalNavigation();
+    EXPECT_TRUE(controller->goBackButton.isEnabled());
+    EXPECT_EQ(controller->saveButton.title(), "Don't Keep Article");
+}
+
 TEST_F(FeedsBrowserArticleViewControllerTest, GoesBackAndForward) {
     controller->perform(Action{browseractions::goBack});
     controller->perform(Action{browseractions::goForward});
@@ -175,6 +195,18 @@ TEST_F(FeedsBrowserArticleViewControllerTest, SavesAndUnsavesTheArticle) {
     EXPECT_THAT(takeCalls(), ElementsAre("refreshInterface", "didUnsave"));
     EXPECT_THAT(saved->savedArticles, IsEmpty());
     EXPECT_EQ(controller->saveMenuItem->title(), "Keep Article");
+}
+
+TEST_F(FeedsBrowserArticleViewControllerTest, TellsOfASavedArticleWhenItsControlsShowIt) {
+    std::vector<std::string> shown;
+    const auto note = [&](const Notification&) { shown.push_back(controller->saveButton.title()); };
+    NotificationCenter& center = NotificationCenter::defaultCenter();
+    const auto token = center.addObserver(SavedArticlesManager::didSaveArticleNotification, nullptr, note);
+    const auto token2 = center.addObserver(SavedArticlesManager::didUnsaveArticleNotification, nullptr, note);
+    controller->showArticle(article());
+    controller->handleSave();
+    controller->handleSave();
+    EXPECT_THAT(shown, ElementsAre("Don't Keep Article", "Keep Article"));
 }
 
 TEST_F(FeedsBrowserArticleViewControllerTest, KnowsAnArticleAsSavedByItsIdentifier) {
@@ -243,6 +275,11 @@ TEST_F(FeedsBrowserArticleViewControllerTest, HearsNothingOfAViewThatItReplaced)
     controller->showArticle(article(1));
     EXPECT_TRUE(first->delegate.expired());
     EXPECT_EQ(webView().delegate.lock(), controller);
+}
+
+TEST_F(FeedsBrowserArticleViewControllerTest, TakesItsViewWithItWhenItEnds) {
+    controller.reset();
+    EXPECT_THAT(takeCalls(), ElementsAre("removeFromSuperview"));
 }
 
 TEST_F(FeedsBrowserArticleViewControllerTest, TakesItsOwnActionsAlone) {

@@ -43,6 +43,7 @@ TEST_F(FeedsBrowserFeedArticlesViewControllerTest, ServesTheTable) {
     EXPECT_EQ(controller->heightOfRow(0), 32.0);
     EXPECT_TRUE(controller->shouldSelectRow(1));
     EXPECT_EQ(controller->viewFor("unknownColumn", 0), nullptr);
+    EXPECT_EQ(controller->viewFor("nameColumn", 2), nullptr);
 }
 
 TEST_F(FeedsBrowserFeedArticlesViewControllerTest, ListsTheArticlesOfAFeedWithoutTheirSource) {
@@ -166,10 +167,34 @@ TEST_F(FeedsBrowserFeedArticlesViewControllerTest, ReloadsTheRowsThatDifferOfAnU
 TEST_F(FeedsBrowserFeedArticlesViewControllerTest, ListsTheNewArticlesOfAParsedFeed) {
     showFeed();
     parse(*item, {"zero", "one", "two"});
-    NotificationCenter::defaultCenter().post(notices::didReceiveNewArticles, item.get());
+    notices::post(notices::didReceiveNewArticles, item);
     EXPECT_THAT(shown(), ElementsAre("zero", "one", "two"));
     EXPECT_EQ(controller->feedItemArticles(), item->articles());
     EXPECT_THAT(takeCalls(), ElementsAre("reloadData"));
+}
+
+TEST_F(FeedsBrowserFeedArticlesViewControllerTest, ListsTheNewArticlesOfAParsedFeedBelowItsGroup) {
+    const auto group = add(FeedGroup::make("Group"));
+    const auto below = add(makeItem("Below", {"three"}), add(FeedGroup::make("Inner"), group));
+    controller->showFeed(group);
+    takeCalls();
+    parse(*below, {"three"});
+    notices::post(notices::didReceiveNewArticles, below);
+    EXPECT_EQ(controller->feedItemArticles(), below->articles());
+    EXPECT_THAT(takeCalls(), ElementsAre("reloadRow 0 sourceColumn statusColumn nameColumn"));
+    parse(*below, {"three", "four"});
+    notices::post(notices::didReceiveNewArticles, below);
+    EXPECT_THAT(shown(), ElementsAre("three", "four"));
+}
+
+TEST_F(FeedsBrowserFeedArticlesViewControllerTest, ReloadsTheRowsThatAreReadSinceAnUpdateOfTheGroupAbove) {
+    const auto group = add(FeedGroup::make("Group"));
+    const auto below = add(makeItem("Below", {"three"}), group);
+    controller->showFeed(below);
+    takeCalls();
+    manager->markArticles(ArticleStateFilter::read, group);
+    notices::post(notices::didUpdateFeed, group);
+    EXPECT_THAT(takeCalls(), ElementsAre("reloadRow 0 sourceColumn statusColumn nameColumn"));
 }
 
 TEST_F(FeedsBrowserFeedArticlesViewControllerTest, LeavesItsListWhenAnotherFeedIsUpdated) {
@@ -180,12 +205,36 @@ TEST_F(FeedsBrowserFeedArticlesViewControllerTest, LeavesItsListWhenAnotherFeedI
     EXPECT_THAT(takeCalls(), IsEmpty());
 }
 
-TEST_F(FeedsBrowserFeedArticlesViewControllerTest, LeavesACollectionWhenAFeedIsUpdated) {
+TEST_F(FeedsBrowserFeedArticlesViewControllerTest, KeepsTheRowsOfACollectionWhenAFeedIsUpdated) {
     showFeed();
-    controller->showCollection({});
+    controller->showCollection({item->articles()[0]});
     takeCalls();
     notices::post(notices::didUpdateFeed, item);
-    EXPECT_THAT(shown(), IsEmpty());
+    EXPECT_THAT(takeCalls(), IsEmpty());
+    markRead(0);
+    notices::post(notices::didUpdateFeed, item);
+    EXPECT_THAT(shown(), ElementsAre("one"));
+    EXPECT_THAT(takeCalls(), ElementsAre("reloadRow 0 sourceColumn statusColumn nameColumn"));
+}
+
+TEST_F(FeedsBrowserFeedArticlesViewControllerTest, ListsTheArticlesOfACollectionAsTheyAreAfterAParse) {
+    const auto other = add(makeItem("Other", {"three"}));
+    controller->showCollection({item->articles()[0], other->articles()[0], item->articles()[1]});
+    takeCalls();
+    parse(*item, {"zero", "one"});
+    notices::post(notices::didReceiveNewArticles, item);
+    EXPECT_THAT(shown(), ElementsAre("one", "three", "two"));
+    EXPECT_EQ(controller->feedItemArticles()[0], item->articles()[1]);
+    EXPECT_THAT(takeCalls(), ElementsAre("reloadRow 0 sourceColumn statusColumn nameColumn"));
+}
+
+TEST_F(FeedsBrowserFeedArticlesViewControllerTest, KeepsEachOfTwoArticlesWithOneKeyInACollection) {
+    parse(*item, {"same", "same"});
+    controller->showCollection(item->articles());
+    takeCalls();
+    notices::post(notices::didUpdateFeed, item);
+    EXPECT_EQ(controller->feedItemArticles(), item->articles());
+    EXPECT_THAT(takeCalls(), IsEmpty());
 }
 
 TEST_F(FeedsBrowserFeedArticlesViewControllerTest, ReloadsTheRowOfAnUpdatedArticle) {

@@ -1,10 +1,5 @@
-#include "Brindle/browser/FeedsBrowserWindowController.hpp"
 #include "Brindle/browser/BrowserActions.hpp"
-#include "Brindle/browser/ChangeNotices.hpp"
-#include "tests/browser/OutlineFixture.hpp"
-#include "tests/fakes/TableViewFake.hpp"
-#include "tests/fakes/WebViewFake.hpp"
-#include "tests/fakes/WindowFake.hpp"
+#include "tests/browser/BrowserWindowFixture.hpp"
 
 namespace brindle {
 namespace {
@@ -12,43 +7,7 @@ namespace {
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
-/// The whole browser on the tree: Group(x), -, b. The split view is the first of the responder chain, the application the last.
-class FeedsBrowserWindowControllerTest : public BrowserTest {
-protected:
-    FeedsBrowserWindowControllerTest() {
-        outline->name = rowName;
-        feeds->feedsOutlineView = outline;
-        feeds->viewDidLoad();
-        articles->articlesTableView = table;
-        articles->viewDidLoad();
-        article->viewDidLoad();
-        environment.responderChain->setHandlers({split, feeds, application});
-        controller.windowDidLoad();
-        takeCalls();
-    }
-
-    void search(const std::string& term) {
-        controller.searchField.setStringValue(term);
-        controller.controlTextDidChange();
-    }
-    std::vector<std::string> listed() const { return titles(articles->feedItemArticles()); }
-    bool isFeedsListCollapsed() const { return split->splitViewItems.front().isCollapsed(); }
-
-    std::shared_ptr<FeedGroup> group = add(FeedGroup::make("Group"));
-    std::shared_ptr<FeedItem> x = add(makeItem("x", {"x one", "x two"}), group);
-    std::shared_ptr<FeedSeparator> separator = add(FeedSeparator::make());
-    std::shared_ptr<FeedItem> b = add(makeItem("b", {"b one"}));
-    std::shared_ptr<OutlineViewFake> outline = std::make_shared<OutlineViewFake>(log);
-    std::shared_ptr<TableViewFake> table = std::make_shared<TableViewFake>(makeCallLog());
-    std::shared_ptr<WebContainerViewFake> container = std::make_shared<WebContainerViewFake>(makeCallLog());
-    std::shared_ptr<WindowFake> window = std::make_shared<WindowFake>(log);
-    std::shared_ptr<RemoveFeedToolbarItem> toolbarItem = std::make_shared<RemoveFeedToolbarItem>();
-    std::shared_ptr<FeedsBrowserFeedsViewController> feeds = FeedsBrowserFeedsViewController::make(environment, toolbarItem);
-    std::shared_ptr<FeedsBrowserFeedArticlesViewController> articles = FeedsBrowserFeedArticlesViewController::make(environment);
-    std::shared_ptr<FeedsBrowserArticleViewController> article = FeedsBrowserArticleViewController::make(environment, container, false);
-    std::shared_ptr<FeedsBrowserSplitViewController> split = std::make_shared<FeedsBrowserSplitViewController>(feeds, articles, article);
-    FeedsBrowserWindowController controller{environment, window, split, toolbarItem};
-};
+class FeedsBrowserWindowControllerTest : public BrowserWindowTest {};
 
 TEST_F(FeedsBrowserWindowControllerTest, RestoresItsFrame) {
     FeedsBrowserWindowController other(environment, window, split, toolbarItem);
@@ -88,6 +47,26 @@ TEST_F(FeedsBrowserWindowControllerTest, RevealsTheFeedThatItIsShownFor) {
         takeCalls(), ElementsAre("expandItem Group", "selectRow x", "scrollRowToVisible x", "showWindow", "setTitle Feeds Browser"));
 }
 
+TEST_F(FeedsBrowserWindowControllerTest, ListsTheArticlesOfAFeedThatItRevealsBeforeItHasTheKeyboard) {
+    controller.selectedFeed = x;
+    controller.showWindow();
+    EXPECT_THAT(listed(), ElementsAre("x one", "x two"));
+    EXPECT_EQ(feeds->selectedFeed(), x);
+    EXPECT_TRUE(toolbarItem->isEnabled());
+    EXPECT_THAT(application->log, IsEmpty());
+}
+
+TEST_F(FeedsBrowserWindowControllerTest, RevealsASeparatorWithoutListingAnything) {
+    outline->click(b);
+    takeCalls();
+    controller.selectedFeed = separator;
+    controller.showWindow();
+    EXPECT_THAT(takeCalls(), ElementsAre("selectRow -", "scrollRowToVisible -", "showWindow", "setTitle Feeds Browser"));
+    EXPECT_EQ(feeds->selectedFeed(), separator);
+    EXPECT_EQ(toolbarItem->selectedFeed(), separator);
+    EXPECT_THAT(listed(), ElementsAre("b one"));
+}
+
 TEST_F(FeedsBrowserWindowControllerTest, RevealsNothingThatIsSelectedAlready) {
     outline->click(b);
     controller.selectedFeed = b;
@@ -122,11 +101,15 @@ TEST_F(FeedsBrowserWindowControllerTest, SendsNothingForNoSelection) {
     EXPECT_THAT(listed(), ElementsAre("b one"));
 }
 
-TEST_F(FeedsBrowserWindowControllerTest, SendsTheSelectionAlongTheChain) {
-    environment.responderChain->setHandlers({application});
+TEST_F(FeedsBrowserWindowControllerTest, SendsWhatNoPaneTakesToTheApplication) {
+    auto other = FeedsBrowserSplitViewController::make(environment, toolbarItem, container);
+    const auto pane = other->feedsViewController().shared_from_this();
+    pane->feedsOutlineView = outline;
+    pane->viewDidLoad();
+    other.reset();
     outline->click(b);
     outline->click(outline->itemAtRow(1));
-    EXPECT_THAT(application->log, ElementsAre("showFeed:", "showCollectionArticles:"));
+    ASSERT_THAT(application->log, ElementsAre("showFeed:", "showCollectionArticles:"));
     EXPECT_EQ(application->senders.front()->representedObject(), b);
 }
 
@@ -158,6 +141,7 @@ TEST_F(FeedsBrowserWindowControllerTest, EditsNothingElse) {
 }
 
 TEST_F(FeedsBrowserWindowControllerTest, DeletesTheSelectedFeedWhenThePersonConfirms) {
+    becomeKey();
     outline->click(b);
     environment.responderChain->perform(Action{browseractions::deleteFeed});
     EXPECT_THAT(
@@ -184,6 +168,7 @@ TEST_F(FeedsBrowserWindowControllerTest, TellsThatNoFeedIsSelected) {
 }
 
 TEST_F(FeedsBrowserWindowControllerTest, AllowsDeletingOnlyWithASelectedFeed) {
+    becomeKey();
     const MenuItem item("Delete", browseractions::deleteFeed);
     EXPECT_FALSE(environment.responderChain->validate(item));
     outline->click(b);
@@ -203,46 +188,20 @@ TEST_F(FeedsBrowserWindowControllerTest, RemovesByTheToolbarWithoutAQuestion) {
     EXPECT_THAT(takeCalls(), IsEmpty());
 }
 
-TEST_F(FeedsBrowserWindowControllerTest, SearchesAllFeedsWhateverIsSelected) {
-    outline->click(b);
-    table->select({0});
-    search("ONE");
-    EXPECT_THAT(listed(), ElementsAre("x one", "b one"));
-    EXPECT_TRUE(isFeedsListCollapsed());
-    EXPECT_EQ(article->article(), nullptr);
-}
-
-TEST_F(FeedsBrowserWindowControllerTest, ChangesNothingWhenASearchBegins) {
+TEST_F(FeedsBrowserWindowControllerTest, EmptiesTheListAfterARemovalWhenAllElseKnowsOfIt) {
     outline->click(b);
     takeCalls();
-    controller.searchFieldDidStartSearching();
-    EXPECT_THAT(listed(), ElementsAre("b one"));
-    EXPECT_FALSE(isFeedsListCollapsed());
-    EXPECT_THAT(takeCalls(), IsEmpty());
+    table->log = log;
+    controller.removeSelectedFeed();
+    EXPECT_THAT(takeCalls(),
+        ElementsAre("beginUpdates", "removeItem 2 in FEEDS", "endUpdates", "refreshInterface", "show sourceColumn", "reloadData"));
 }
 
-TEST_F(FeedsBrowserWindowControllerTest, StaysEmptyAndCollapsedForATermWithoutMatches) {
+TEST_F(FeedsBrowserWindowControllerTest, EndsTheTimerOfARemovedFeed) {
+    b->scheduleUpdates(false);
     outline->click(b);
-    search("nothing");
-    EXPECT_THAT(listed(), IsEmpty());
-    EXPECT_TRUE(isFeedsListCollapsed());
-    search("");
-    EXPECT_THAT(listed(), ElementsAre("b one"));
-    EXPECT_FALSE(isFeedsListCollapsed());
-}
-
-TEST_F(FeedsBrowserWindowControllerTest, IsEmptyAfterASearchWhereNoFeedIsSelected) {
-    search("one");
-    search("");
-    EXPECT_THAT(listed(), IsEmpty());
-}
-
-TEST_F(FeedsBrowserWindowControllerTest, KeepsAFeedsUpdateOutOfTheMatches) {
-    outline->click(b);
-    search("two");
-    parse(*b, {"b three"});
-    NotificationCenter::defaultCenter().post(notices::didReceiveNewArticles, b.get());
-    EXPECT_THAT(listed(), ElementsAre("x two"));
+    controller.removeSelectedFeed();
+    EXPECT_FALSE(b->hasTimer());
 }
 
 TEST_F(FeedsBrowserWindowControllerTest, AnswersWhetherPanesMayCollapse) {

@@ -146,6 +146,29 @@ TEST_F(FeedsOutlineDragTest, ReloadsTheRowsAboveTheGroupThatAnEntryLeaves) {
                                  "endUpdates", "reloadItem FEEDS", "updateMenu"));
 }
 
+TEST_F(FeedsOutlineDragTest, TakesATargetThatIsNoGroupForTheTopLevel) {
+    EXPECT_TRUE(drop({x}, b, 0));
+    EXPECT_THAT(top(), ElementsAre("x", "a", "Group", "b", "-", "c"));
+}
+
+TEST_F(FeedsOutlineDragTest, TakesAnEntryThatIsNotInTheLibraryForTheOneAfterTheLast) {
+    const auto stranger = makeItem("stranger");
+    EXPECT_TRUE(drop({stranger}, nullptr, 1));
+    EXPECT_THAT(top(), ElementsAre("a", "stranger", "Group", "b", "-", "c"));
+    EXPECT_EQ(takeCalls().at(1), "moveItem 5 in FEEDS to 1 in FEEDS");
+}
+
+TEST_F(FeedsOutlineDragTest, SavesNothing) {
+    EXPECT_TRUE(drop({a}, group, 0));
+    EXPECT_FALSE(std::filesystem::exists(folder / "Feeds.brindle"));
+}
+
+TEST_F(FeedsOutlineDragTest, KeepsAMovedEntrySelected) {
+    view->click(a);
+    EXPECT_TRUE(drop({a}, feedsSection(), 3));
+    EXPECT_THAT(controller->selectedItems(), ElementsAre(a));
+}
+
 TEST_F(FeedsOutlineDragTest, LeavesTheLastEntryWhereItIsWhenDroppedAtTheEnd) {
     EXPECT_TRUE(drop({c}, nullptr, -1));
     EXPECT_THAT(top(), ElementsAre("a", "Group", "b", "-", "c"));

@@ -7,6 +7,7 @@ namespace {
 
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
+using ::testing::SizeIs;
 
 class FeedsOutlineNoticesTest : public OutlineTest {
 protected:
@@ -14,8 +15,6 @@ protected:
         setCollections(true, true, true);
         show();
     }
-
-    static void post(std::string_view name, const void* object) { NotificationCenter::defaultCenter().post(name, object); }
 
     std::shared_ptr<FeedGroup> outer = add(FeedGroup::make("Outer"));
     std::shared_ptr<FeedGroup> inner = add(FeedGroup::make("Inner"), outer);
@@ -28,13 +27,13 @@ TEST_F(FeedsOutlineNoticesTest, HaveTheNamesUnderWhichOthersPostThem) {
 }
 
 TEST_F(FeedsOutlineNoticesTest, OfAParsedFeedReloadTheCollectionsThenItsRowAndThoseAboveIt) {
-    post(notices::didReceiveNewArticles, item.get());
+    notices::post(notices::didReceiveNewArticles, item);
     EXPECT_THAT(takeCalls(), ElementsAre("reloadItem today", "reloadItem unread", "reloadItem saved", "reloadItem Feed", "reloadItem Inner",
                                  "reloadItem Outer"));
 }
 
 TEST_F(FeedsOutlineNoticesTest, OfAnIconReloadTheFeedsRow) {
-    post(notices::didUpdateFeedItemImage, item.get());
+    notices::post(notices::didUpdateFeedItemImage, item);
     EXPECT_THAT(takeCalls(), ElementsAre("reloadItem Feed"));
 }
 
@@ -56,7 +55,7 @@ TEST_F(FeedsOutlineNoticesTest, OfAnUnsavedArticleWhoseFeedIsGoneReloadTheCollec
 
 TEST_F(FeedsOutlineNoticesTest, OfANewEntryInsertItsRowInItsGroup) {
     const auto added = add(makeItem("New"), inner);
-    post(notices::didAddFeed, added.get());
+    notices::post(notices::didAddFeed, added);
     EXPECT_THAT(takeCalls(), ElementsAre("beginUpdates", "insertItem 1 in Inner", "endUpdates"));
 }
 
@@ -69,20 +68,20 @@ TEST_F(FeedsOutlineNoticesTest, OfANewEntryInsertItsRowAtTheEndOfTheTopLevel) {
 TEST_F(FeedsOutlineNoticesTest, OfSeveralNewEntriesInsertEachWhereItIs) {
     const auto first = add(makeItem("First"));
     const auto second = add(makeItem("Second"));
-    post(notices::didAddFeed, first.get());
-    post(notices::didAddFeed, second.get());
+    notices::post(notices::didAddFeed, first);
+    notices::post(notices::didAddFeed, second);
     EXPECT_THAT(takeCalls(),
         ElementsAre("beginUpdates", "insertItem 1 in FEEDS", "endUpdates", "beginUpdates", "insertItem 2 in FEEDS", "endUpdates"));
 }
 
 TEST_F(FeedsOutlineNoticesTest, OfAnEntryOutsideTheLibraryDoNothing) {
     const auto stranger = makeItem("Stranger");
-    post(notices::didAddFeed, stranger.get());
+    notices::post(notices::didAddFeed, stranger);
     EXPECT_THAT(takeCalls(), IsEmpty());
 }
 
 TEST_F(FeedsOutlineNoticesTest, OfAnUpdatedFeedReloadItsRowThoseAboveItAndTheCollections) {
-    post(notices::didUpdateFeed, item.get());
+    notices::post(notices::didUpdateFeed, item);
     EXPECT_THAT(takeCalls(), ElementsAre("reloadItem Feed", "reloadItem Inner", "reloadItem Outer", "reloadItem today", "reloadItem unread",
                                  "reloadItem saved"));
 }
@@ -98,7 +97,7 @@ TEST_F(FeedsOutlineNoticesTest, OfAnUpdatedArticleReloadTheRowOfItsFeed) {
 TEST_F(FeedsOutlineNoticesTest, OfOtherCollectionsReloadAllAndKeepTheCollectionSelected) {
     view->click(collectionRow(Collection::Kind::saved));
     setCollections(false, false, true);
-    post(notices::didUpdateCollections, nullptr);
+    notices::post(notices::didUpdateCollections, nullptr);
     EXPECT_THAT(takeCalls(), ElementsAre("reloadData", "expandItem COLLECTIONS", "expandItem FEEDS", "selectRow saved"));
 }
 
@@ -106,20 +105,22 @@ TEST_F(FeedsOutlineNoticesTest, OfOtherCollectionsKeepTheFeedSelected) {
     view->expanded.insert({outer, inner});
     view->click(item);
     setCollections(false, false, false);
-    post(notices::didUpdateCollections, nullptr);
+    notices::post(notices::didUpdateCollections, nullptr);
     EXPECT_THAT(takeCalls(), ElementsAre("reloadData", "expandItem FEEDS", "expandItem Outer", "expandItem Inner", "selectRow Feed"));
 }
 
 TEST_F(FeedsOutlineNoticesTest, OfOtherCollectionsSelectNothingInPlaceOfOneThatIsGone) {
     view->click(collectionRow(Collection::Kind::today));
+    ASSERT_THAT(controller->selectedItems(), SizeIs(1));
     setCollections(false, true, false);
-    post(notices::didUpdateCollections, nullptr);
+    notices::post(notices::didUpdateCollections, nullptr);
     EXPECT_THAT(takeCalls(), ElementsAre("reloadData", "expandItem COLLECTIONS", "expandItem FEEDS"));
+    EXPECT_THAT(controller->selectedItems(), IsEmpty());
 }
 
 TEST_F(FeedsOutlineNoticesTest, AreHeardNoMoreWhenTheControllerIsGone) {
     controller.reset();
-    post(notices::didUpdateFeed, item.get());
+    notices::post(notices::didUpdateFeed, item);
     EXPECT_THAT(takeCalls(), IsEmpty());
 }
 

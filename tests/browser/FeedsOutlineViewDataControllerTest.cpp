@@ -119,6 +119,21 @@ TEST_F(FeedsOutlineViewDataControllerTest, ShowsAGroupWithTheUnreadArticlesOfAll
     EXPECT_EQ(shown->iconImageView.image(), Image::named("NSImageNameFolder"));
     EXPECT_EQ(shown->nameTextField.stringValue(), "Group");
     EXPECT_EQ(shown->counterTextField.stringValue(), "2");
+    EXPECT_EQ(shown->counterTextField.textColor(), TextField::Color::systemGray);
+    EXPECT_FALSE(shown->counterTextField.drawsBackground());
+}
+
+TEST_F(FeedsOutlineViewDataControllerTest, ShowsNoCountForAGroupWithoutUnreadArticles) {
+    const auto group = add(FeedGroup::make("Group"));
+    const auto item = add(makeItem("Feed", {"a"}), group);
+    item->markArticle(*item->articles()[0], ArticleStateFilter::read);
+    EXPECT_EQ(cell<FeedTableCellView>(group)->counterTextField.stringValue(), "");
+}
+
+TEST_F(FeedsOutlineViewDataControllerTest, HasNoChildBeyondTheLast) {
+    const auto group = add(FeedGroup::make("Group"));
+    for (const OutlineItem& parent : {OutlineItem(), feedsSection(), OutlineItem(group), OutlineItem(FeedSeparator::make())})
+        EXPECT_EQ(controller->child(controller->numberOfChildren(parent), parent), nullptr);
 }
 
 TEST_F(FeedsOutlineViewDataControllerTest, ShowsAFeedWithItsUnreadArticlesInGray) {

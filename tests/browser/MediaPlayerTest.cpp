@@ -48,6 +48,12 @@ TEST_F(MediaPlayerTest, PlaysWhenReady) {
     EXPECT_THAT(takeCalls(), ElementsAre("play"));
 }
 
+TEST_F(MediaPlayerTest, PlaysWhatIsReadyBeforeItCouldHearOfIt) {
+    view->statusOfNext = Player::Status::readyToPlay;
+    content->playURL(url("a"));
+    EXPECT_EQ(takeCalls().back(), "play");
+}
+
 TEST_F(MediaPlayerTest, TellsAFailureOnceAndKeepsTheWindow) {
     content->playURL(url("a"));
     takeCalls();
@@ -56,6 +62,14 @@ TEST_F(MediaPlayerTest, TellsAFailureOnceAndKeepsTheWindow) {
     view->made->become(Player::Status::failed);
     EXPECT_THAT(takeCalls(), ElementsAre("runModal Loading failed!"));
     EXPECT_EQ(alerts->alerts.front().informativeText, "The current media could not be loaded because of an error: No such host");
+}
+
+TEST_F(MediaPlayerTest, TellsAFailureFromBeforeItCouldHearOfIt) {
+    view->statusOfNext = Player::Status::failed;
+    content->playURL(url("a"));
+    EXPECT_EQ(alerts->alerts.size(), 1U);
+    view->made->become(Player::Status::failed);
+    EXPECT_EQ(alerts->alerts.size(), 1U);
 }
 
 TEST_F(MediaPlayerTest, TellsAFailureWithoutAnError) {
@@ -81,6 +95,15 @@ TEST_F(MediaPlayerTest, StopsWhenTheWindowCloses) {
     EXPECT_THAT(takeCalls(), ElementsAre("setObserver none", "setRate 0", "setPlayer none"));
     controller->windowWillClose();
     EXPECT_THAT(takeCalls(), IsEmpty());
+}
+
+TEST_F(MediaPlayerTest, MakesAnotherPlayerAfterItsWindowWasClosed) {
+    controller->windowDidLoad();
+    controller->setURL(url("a"));
+    controller->windowWillClose();
+    takeCalls();
+    controller->setURL(url("b"));
+    EXPECT_THAT(takeCalls(), ElementsAre("makePlayer http://a.test/b", "setPlayer", "setObserver"));
 }
 
 TEST_F(MediaPlayerTest, StopsWhenTheControllerEnds) {

@@ -37,18 +37,24 @@ protected:
     std::filesystem::path legacyFile() const { return supportFolder() / "Feeds Library.brindle"; }
 
     /// A call of each command that writes.
-    static std::vector<Words> writers() {
+    std::vector<Words> writers() {
         const std::string uuid(first);
         return {{"add", "http://127.0.0.1:1/"}, {"add-group", "G"}, {"add-separator"}, {"edit", uuid, "--name", "N"}, {"remove", uuid},
-            {"update"}, {"mark", "read"}};
+            {"update"}, {"mark", "read"}, keep(), {"unkeep", "--id", "http://a.test/A"}, {"import", opmlFile()},
+            {"move", uuid, "--to", "top", "--index", "-1"}, {"open", "http://127.0.0.1:1/"}, {"reset", "caches"}};
     }
+    static Words keep(const std::string& key = "Alpha&http://a.test/A") { return {"keep", "--feed", std::string(first), "--key", key}; }
+    std::string opmlFile() { return file("a.opml", "<opml><body><outline text='A' xmlUrl='http://b.test/'/></body></opml>"); }
 };
 
 TEST_F(LibrarySafetyTest, ReadingCommandsNeitherWriteNorNeedTheLock) {
     const auto lock = FileLock::tryLock(supportFolder() / ".lock");
     ASSERT_TRUE(lock && *lock);
     const auto before = filesOf(supportFolder());
-    for (const Words& command : std::vector<Words>{{"list"}, {"articles"}, {"search", "a"}})
+    const std::vector<Words> readers = {{"list"}, {"articles"}, {"search", "a"}, {"menu"}, {"status"}, {"collections"}, {"saved"},
+        {"export", "-"}, {"outline"}, {"article", "--feed", std::string(first), "--key", "Alpha&http://a.test/A"},
+        {"open-unread", "--dry-run"}};
+    for (const Words& command : readers)
         EXPECT_EQ(run(command).status, 0) << command[0];
     EXPECT_EQ(filesOf(supportFolder()), before);
 }
@@ -102,9 +108,20 @@ TEST_F(LibrarySafetyTest, FailsWhenTheLibraryCannotBeSaved) {
     std::filesystem::create_directory(supportFolder() / ".Feeds.brindle.tmp");
     const std::string before = testsupport::bytesOf(libraryFile());
     for (const Words& command : std::vector<Words>{{"add-group", "G"}, {"add-separator"}, {"edit", std::string(first), "--name", "N"},
-             {"remove", std::string(first)}, {"mark", "read"}})
+             {"remove", std::string(first)}, {"mark", "read"}, {"import", opmlFile()}, {"move", "@0", "--to", "top", "--index", "-1"}})
         expectError(command, 1, "could not be saved");
     EXPECT_EQ(testsupport::bytesOf(libraryFile()), before);
+}
+
+TEST_F(LibrarySafetyTest, FailsWhenTheSavedArticlesCannotBeStored) {
+    const std::filesystem::path savedFile = supportFolder() / "Saved Articles.brindle";
+    EXPECT_EQ(run(keep()).status, 0);
+    EXPECT_EQ(run(keep("B\u00e9ta&http://a.test/B")).status, 0);
+    const std::string before = testsupport::bytesOf(savedFile);
+    std::filesystem::create_directory(supportFolder() / ".Saved Articles.brindle.tmp");
+    expectError({"keep", "--feed", std::string(second), "--key", "Gamma&http://a.test/G"}, 1, "could not be stored");
+    expectError({"unkeep", "--id", "http://a.test/A"}, 1, "could not be stored");
+    EXPECT_EQ(testsupport::bytesOf(savedFile), before);
 }
 
 TEST_F(LibrarySafetyTest, StoresALibraryOfTheFirstVersionsAtOnce) {

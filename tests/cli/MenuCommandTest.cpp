@@ -2,6 +2,7 @@
 #include "Brindle/library/FeedItem.hpp"
 #include "Brindle/library/FeedsManager.hpp"
 #include "foundation/Console.hpp"
+#include "foundation/Text.hpp"
 #include "tests/cli/LibraryFolder.hpp"
 
 #include <algorithm>
@@ -97,8 +98,13 @@ TEST_F(MenuCommandTest, TellsWhatAnItemStandsForAndItsImage) {
 
 TEST_F(MenuCommandTest, PrintsAPreviewAsItsText) {
     EXPECT_EQ(at(runJSON({"menu"}), {"One (2)", "Alpha"})["submenu"].dump(), R"([{"preview":""}])");
+    std::ofstream(supportFolder() / "Data" / first) << "<rss><channel><item><title>Alpha</title><description>&lt;p&gt;Some "
+                                                       "&lt;b&gt;text&lt;/b&gt;&lt;/p&gt;</description></item></channel></rss>";
+    const auto submenu = at(runJSON({"menu"}), {"One (1)", "Alpha"})["submenu"];
+    ASSERT_EQ(submenu.size(), 1U);
+    EXPECT_EQ(text::trimmed(submenu[0]["preview"].get<std::string>()), "Some text");
     set("allowFeedArticlePreview", "false");
-    EXPECT_EQ(at(runJSON({"menu"}), {"One (2)", "Alpha"})["submenu"], nullptr);
+    EXPECT_EQ(at(runJSON({"menu"}), {"One (1)", "Alpha"})["submenu"], nullptr);
 }
 
 TEST_F(MenuCommandTest, FollowsThePreferences) {

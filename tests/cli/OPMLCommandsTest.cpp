@@ -157,6 +157,10 @@ TEST_F(OPMLCommandsTest, ExportFailsWhereTheFileCanNotBeWritten) {
     expectError({"export", (folder() / "none" / "a.opml").string()}, 1, "could not be written");
 }
 
+TEST_F(OPMLCommandsTest, ExportSaysWhichTextIsNotUTF8) {
+    expectError({"export", (folder() / "\xff.opml").string()}, 1, "a name in the library, or that of the file, is not UTF-8");
+}
+
 TEST_F(OPMLCommandsTest, ExportLeavesTheLibraryAsItIs) {
     const std::string before = bytesOf(supportFolder() / "Feeds.brindle");
     run({"export", (folder() / "a.opml").string()});

@@ -84,6 +84,18 @@ TEST_F(MoveCommandTest, PutsWhatComesFromAboveOnePlaceHigher) {
     EXPECT_EQ(move({std::string(first), "--to", "top", "--index", "2"}), "News(Second - ) One - ");
 }
 
+TEST_F(MoveCommandTest, MovesSeveralEntriesOneBehindTheOther) {
+    EXPECT_EQ(move({std::string(first), "@2", "--to", "@1", "--index", "0"}), "News(One - Second - ) ");
+}
+
+TEST_F(MoveCommandTest, PutsEntriesFromAboveTheirPlaceInTurnedOrder) {
+    EXPECT_EQ(move({"@0", "@1", "--to", "top", "--index", "-1"}), "- News(Second - ) One ");
+}
+
+TEST_F(MoveCommandTest, TakesAPlaceBelowAFeedForOneOfTheTopLevel) {
+    EXPECT_EQ(move({std::string(second), "--to", std::string(first), "--index", "0"}), "Second One News(- ) - ");
+}
+
 TEST_F(MoveCommandTest, PrintsTheTree) {
     const JSON tree = runJSON({"move", std::string(first), "--to", "@1", "--index", "0"});
     EXPECT_EQ(tree, runJSON({"list"}));

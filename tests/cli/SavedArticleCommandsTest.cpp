@@ -1,4 +1,7 @@
+#include "Brindle/library/FeedItem.hpp"
+#include "foundation/KeyedArchiver.hpp"
 #include "tests/cli/LibraryFolder.hpp"
+#include "tests/support/Corpus.hpp"
 
 #include <fstream>
 
@@ -116,6 +119,17 @@ TEST_F(SavedArticleCommandsTest, ADamagedFileIsShownAsEmptyAndNotReplaced) {
     expectError({"keep", "--feed", std::string(second), "--key", gammaKey}, 1, "can't be read");
     expectError({"unkeep", "--id", "x"}, 1, "can't be read");
     EXPECT_EQ(std::filesystem::file_size(savedFile()), 7U);
+}
+
+TEST_F(SavedArticleCommandsTest, AFileWithAnythingButArticlesIsNotReplaced) {
+    const SyndicatedSessionEnvironment offline = {std::make_shared<SystemClock>(), absentNetworkRoute(), nullptr};
+    const std::vector<std::shared_ptr<const Coding>> root = {FeedItem::make("Feed", *URL::make("http://a.test/feed"), 30, {}, {}, offline)};
+    const std::string bytes = KeyedArchiver::archivedData(root).value();
+    std::ofstream(savedFile(), std::ios::binary) << bytes;
+    EXPECT_EQ(run({"--json", "saved"}).output, "[]\n");
+    expectError({"keep", "--feed", std::string(second), "--key", gammaKey}, 1, "can't be read");
+    expectError({"unkeep", "--id", "x"}, 1, "can't be read");
+    EXPECT_EQ(testsupport::bytesOf(savedFile()), bytes);
 }
 
 TEST_F(SavedArticleCommandsTest, CollectionsPrintTodaysTheUnreadAndTheSavedArticles) {

@@ -79,7 +79,23 @@ TEST_F(FeedEventNotifierTest, ShowsNoBannersAndDoesNotSpeakUnlessAskedTo) {
     EXPECT_THAT(speech->log, SizeIs(1));
 }
 
+TEST_F(FeedEventNotifierTest, OnlyFiltersWhenNeitherBannersNorSpeechAreWanted) {
+    defaults->set(preference::useVisualNotifications, false);
+    defaults->set(preference::useSpeechNotifications, false);
+    notifier->notifyNewArticles(feed, articles(1));
+    defaults->set(preference::notifyOnOtherError, true);
+    notifier->notifyError(feed);
+    EXPECT_THAT(banners->delivered, IsEmpty());
+    EXPECT_EQ(banners->delegate.lock(), nullptr);
+    EXPECT_THAT(speech->log, IsEmpty());
+    EXPECT_EQ(madeSynthesizers, 0);
+}
+
 TEST_F(FeedEventNotifierTest, MakesItsVoiceForTheFirstMessage) {
+    notifier->notifyVisually("Title", "Message");
+    defaults->set(preference::useSpeechNotifications, false);
+    notifier->notifySpeech("Unwanted");
+    defaults->set(preference::useSpeechNotifications, true);
     EXPECT_EQ(madeSynthesizers, 0);
     notifier->notifySpeech("First");
     notifier->notifySpeech("Second");
@@ -114,7 +130,8 @@ TEST_F(FeedEventNotifierTest, SpeaksWhatWaitsAlsoWhenSpeechWasTurnedOff) {
 }
 
 TEST_F(FeedEventNotifierTest, PrintsAFeedThatABannerNames) {
-    notifier->notifyNewArticles(feed, articles(1));
+    const Articles list = articles(1);
+    notifier->notifyNewArticles(feed, list);
     const auto delegate = banners->delegate.lock();
     ASSERT_EQ(delegate, notifier);
     delegate->userNotificationCenterDidActivateNotification(banners->delivered[0]);
@@ -151,6 +168,11 @@ class FeedEventNotifierDeathTest : public EventsTest {};
 
 TEST_F(FeedEventNotifierDeathTest, KnowsNoVoiceBeyondTheList) {
     defaults->set(preference::speechVoiceIndex, std::int64_t{2});
+    EXPECT_DEATH(notifier->speak("Message"), "Fatal error: The voice to speak with is beyond the list of voices");
+}
+
+TEST_F(FeedEventNotifierDeathTest, KnowsNoVoiceBeforeTheList) {
+    defaults->set(preference::speechVoiceIndex, std::int64_t{-1});
     EXPECT_DEATH(notifier->speak("Message"), "Fatal error: The voice to speak with is beyond the list of voices");
 }
 

@@ -100,6 +100,19 @@ TEST_F(UISyncDispatcherTest, GathersNothing) {
     EXPECT_THAT(log, SizeIs(9));
 }
 
+TEST_F(UISyncDispatcherTest, HandsTheFeedItselfToTheWindows) {
+    std::vector<std::shared_ptr<Object>> objects;
+    std::vector<NotificationCenter::Token> tokens;
+    for (const auto name : {UISyncDispatcher::didReceiveNewArticlesNotification, UISyncDispatcher::didUpdateFeedItemImageNotification}) {
+        tokens.push_back(NotificationCenter::defaultCenter().addObserver(name, nullptr,
+            [&](const Notification& notice) { objects.push_back(notice.value<std::shared_ptr<Object>>("object").value_or(nullptr)); }));
+    }
+    feed->setFeedImageData("icon");
+    dispatcher.feedItemDidFinishParsing(*feed, {});
+    dispatcher.feedItemHasImageData(*feed);
+    EXPECT_THAT(objects, ElementsAre(feed, feed));
+}
+
 class UISyncDispatcherDeathTest : public UISyncDispatcherTest {};
 
 TEST_F(UISyncDispatcherDeathTest, NeedsAnApplication) {

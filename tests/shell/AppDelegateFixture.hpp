@@ -31,8 +31,8 @@
 
 namespace brindle {
 
-/// An application on a desktop of fakes, which write to one log with the console's lines (up to ", error: ") and the notices of changes
-/// between. Nothing is launched yet, and the network is away.
+/// An application on a desktop of fakes, which write to one log with the console's lines (up to ", error: ", without those of ended
+/// articles) and the notices of changes between. Nothing is launched yet, and the network is away.
 class AppDelegateTest : public ::testing::Test {
 protected:
     static constexpr const char* bundleIdentifier = "test.brindle";

@@ -2,6 +2,7 @@
 #include "foundation/RunLoop.hpp"
 #include "tests/shell/AppDelegateFixture.hpp"
 
+#include <cstdlib>
 #include <fstream>
 
 namespace brindle {
@@ -24,17 +25,34 @@ protected:
         takeCalls();
         windows->splash->handleClick();
     }
-    void pass(std::chrono::milliseconds duration) {
-        time->advance(duration);
-        RunLoop::main().runPending();
-    }
 };
 
 const std::vector<std::string> startCalls = {"Could not load library", "Could not load saved articles", "addObserver 0", "addObserver 1",
     "addObserver 2", "addObserver 3", "setURLEventHandler", "badge ", "activate", "showWindow", "setTitle Feeds Browser"};
 
+TEST(AppDelegateDeathTest, HasNoSharedOneBeforeOneIsMade) {
+    ::testing::FLAGS_gtest_death_test_style = "threadsafe";
+    EXPECT_DEATH(AppDelegate::shared(), "Fatal error: The application has no delegate.");
+}
+
+TEST(AppDelegateDeathTest, NeedsAFolderForItsFiles) {
+    ::testing::FLAGS_gtest_death_test_style = "threadsafe";
+    const auto find = [] {
+        ::unsetenv("XDG_DATA_HOME");
+        ::unsetenv("HOME");
+        static_cast<void>(AppDelegate::applicationSupportDirectory());
+    };
+    EXPECT_DEATH(find(), "Fatal error: Could not find Application Support folder for current user!");
+}
+
 TEST_F(AppDelegateLifecycleTest, IsReachedAsTheSharedOne) {
     EXPECT_EQ(AppDelegate::shared(), delegate);
+}
+
+TEST_F(AppDelegateLifecycleTest, KeepsItsFilesInAFolderOfItsOwn) {
+    const auto folders = FileManager::applicationSupportDirectory();
+    ASSERT_TRUE(folders);
+    EXPECT_EQ(AppDelegate::applicationSupportDirectory(), *folders / "Brindle");
 }
 
 TEST_F(AppDelegateLifecycleTest, StartsInOrder) {
@@ -68,6 +86,18 @@ TEST_F(AppDelegateLifecycleTest, StartsAlsoWhenItsFoldersCantBeMade) {
     const auto calls = takeCalls();
     EXPECT_THAT(calls, Contains("Could not create directory Data"));
     EXPECT_EQ(calls.back(), "setTitle Feeds Browser");
+}
+
+TEST_F(AppDelegateLifecycleTest, TriesToMakeItsFoldersFromTheTopDownBeforeItLoads) {
+    std::ofstream(folder / "file") << "no folder";
+    environment.supportDirectory = folder / "file" / "Brindle";
+    remake();
+    set(preference::hideFBOnStartup, true);
+    launch();
+    const auto calls = takeCalls();
+    EXPECT_THAT(std::vector<std::string>(calls.begin(), calls.begin() + 6),
+        ElementsAre("setActivationPolicy 0", "Could not create directory Brindle", "Could not create directory Caches",
+            "Could not create directory Images", "Could not create directory Data", "Could not load library"));
 }
 
 TEST_F(AppDelegateLifecycleTest, LoadsAndFetchesTheLibraryBeforeItObservesTheSystem) {
@@ -143,6 +173,26 @@ TEST_F(AppDelegateLifecycleTest, AddsTheDefaultFeedOnce) {
     EXPECT_THAT(names(), IsEmpty());
 }
 
+TEST_F(AppDelegateLifecycleTest, AddsTheDefaultFeedOnceForTwoClicksOnTheSplash) {
+    storeLibrary("stored");
+    launchFirst();
+    windows->splash->handleClick();
+    EXPECT_THAT(names(), ElementsAre("", "stored"));
+}
+
+TEST_F(AppDelegateLifecycleTest, AddsTheDefaultFeedAtTheEndOfWhatIsThere) {
+    add(FeedSeparator::make());
+    launchFirst();
+    EXPECT_THAT(names(), ElementsAre("-", ""));
+}
+
+TEST_F(AppDelegateLifecycleTest, AddsNoDefaultFeedWhereOneHasItsAddress) {
+    add(FeedItem::make("news", URL::make("file:///news.xml").value(), 30, {}, {}, feedsManager().environment()));
+    launchFirst();
+    EXPECT_THAT(names(), ElementsAre("news"));
+    EXPECT_FALSE(isOn(preference::addedDefaultFeed));
+}
+
 TEST_F(AppDelegateLifecycleTest, AddsNoDefaultFeedOfAnAddressThatIsNone) {
     environment.defaultFeedAddress = "no address";
     remake();
@@ -160,6 +210,22 @@ TEST_F(AppDelegateLifecycleTest, EndsByRemovingTheObserversAndSaving) {
     EXPECT_THAT(takeCalls(), ElementsAre("removeObserver 0", "removeObserver 1", "removeObserver 2", "removeObserver 3",
                                  "removeURLEventHandler", "Removing FeedGroup __SAVED_FEED_GROUP__"));
     EXPECT_TRUE(FileManager::fileExists(environment.supportDirectory / "Feeds.brindle"));
+}
+
+TEST_F(AppDelegateLifecycleTest, StoresTheSavedArticlesWhenItEnds) {
+    set(preference::hideFBOnStartup, true);
+    launch();
+    const auto feed = add(makeItem("a", {"1"}));
+    delegate->savedArticlesManager()->savedArticles = feed->articles();
+    delegate->applicationWillTerminate();
+    EXPECT_TRUE(FileManager::fileExists(delegate->savedArticlesManager()->file()));
+}
+
+TEST_F(AppDelegateLifecycleTest, LeavesTheTimersRunningWhenItEnds) {
+    const auto feed = add(makeItem("a"));
+    feed->scheduleUpdates(false);
+    delegate->applicationWillTerminate();
+    EXPECT_TRUE(feed->hasTimer());
 }
 
 TEST_F(AppDelegateLifecycleTest, TellsALauncherThatRunsToEnd) {
@@ -182,90 +248,6 @@ TEST_F(AppDelegateLifecycleTest, OffersTheBrowserInTheDock) {
     ASSERT_EQ(menu->items().size(), 1U);
     EXPECT_EQ(menu->items()[0]->title(), "Show Feeds Browser");
     EXPECT_EQ(menu->items()[0]->action(), "showFeedsBrowser:");
-}
-
-TEST_F(AppDelegateLifecycleTest, StopsUpdatingWhileTheMachineSleeps) {
-    const auto feed = add(makeItem("a"));
-    feed->scheduleUpdates(false);
-    delegate->machineWillSleep();
-    EXPECT_FALSE(feedsManager().allowUpdates);
-    EXPECT_FALSE(feed->hasTimer());
-    EXPECT_TRUE(isOn(preference::savedFeedsUpdateState));
-}
-
-TEST_F(AppDelegateLifecycleTest, UpdatesAgainFiveSecondsAfterItWoke) {
-    const auto feed = add(makeItem("a"));
-    delegate->machineWillSleep();
-    delegate->machineDidWake();
-    pass(std::chrono::milliseconds(4999));
-    EXPECT_FALSE(feedsManager().allowUpdates);
-    pass(std::chrono::milliseconds(1));
-    EXPECT_TRUE(feedsManager().allowUpdates);
-    EXPECT_TRUE(feed->hasTimer());
-    EXPECT_TRUE(feed->session().isQueued());
-}
-
-TEST_F(AppDelegateLifecycleTest, StopsAndUpdatesAgainWithThePersonsSession) {
-    delegate->machineResignedSession();
-    EXPECT_FALSE(feedsManager().allowUpdates);
-    delegate->machineActivatedSession();
-    pass(std::chrono::seconds(5));
-    EXPECT_TRUE(feedsManager().allowUpdates);
-}
-
-TEST_F(AppDelegateLifecycleTest, LeavesAPausedLibraryPausedAfterItWoke) {
-    feedsManager().allowUpdates = false;
-    delegate->machineWillSleep();
-    EXPECT_FALSE(isOn(preference::savedFeedsUpdateState));
-    delegate->machineDidWake();
-    EXPECT_EQ(RunLoop::main().nextDeadline(), RunLoop::Time::max());
-    pass(std::chrono::seconds(5));
-    EXPECT_FALSE(feedsManager().allowUpdates);
-}
-
-TEST_F(AppDelegateLifecycleTest, StaysOffAfterTwoSuspensionsInARow) {
-    delegate->machineResignedSession();
-    delegate->machineWillSleep();
-    delegate->machineDidWake();
-    pass(std::chrono::seconds(5));
-    EXPECT_FALSE(feedsManager().allowUpdates);
-}
-
-TEST_F(AppDelegateLifecycleTest, HasADelayForEachOfTwoWakes) {
-    delegate->machineDidWake();
-    pass(std::chrono::seconds(3));
-    delegate->machineDidWake();
-    pass(std::chrono::seconds(2));
-    feedsManager().allowUpdates = false;
-    pass(std::chrono::seconds(3));
-    EXPECT_TRUE(feedsManager().allowUpdates);
-}
-
-TEST_F(AppDelegateLifecycleTest, AddsTheFeedOfALink) {
-    delegate->handleAppleEvent("feed://a.test/feed");
-    EXPECT_THAT(takeCalls(), ElementsAre("badge ", "didAddFeed "));
-    const auto items = FeedsManager::items(feedsManager().feeds);
-    ASSERT_EQ(items.size(), 1U);
-    EXPECT_EQ(items[0]->url().absoluteString(), "http://a.test/feed");
-    EXPECT_EQ(items[0]->updateRate, 30);
-    EXPECT_TRUE(items[0]->hasTimer());
-    EXPECT_TRUE(items[0]->session().isQueued());
-    EXPECT_EQ(items[0]->delegate.lock(), delegate->uiSyncDispatcher());
-}
-
-TEST_F(AppDelegateLifecycleTest, AddsTheFeedOfALinkAtTheEndEachTimeThatItComes) {
-    add(FeedSeparator::make());
-    delegate->handleAppleEvent("feed://a.test/feed");
-    delegate->handleAppleEvent("feed://a.test/feed");
-    EXPECT_THAT(names(), ElementsAre("-", "", ""));
-}
-
-TEST_F(AppDelegateLifecycleTest, AddsNothingForALinkThatIsNoFeeds) {
-    delegate->handleAppleEvent(std::nullopt);
-    for (const char* address : {"", "no address", "mailto:a@a.test", "feed:http://a.test/feed", "a.test"})
-        delegate->handleAppleEvent(address);
-    EXPECT_THAT(names(), IsEmpty());
-    EXPECT_THAT(takeCalls(), IsEmpty());
 }
 
 } // namespace

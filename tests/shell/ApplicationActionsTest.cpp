@@ -10,13 +10,6 @@ using ::testing::IsEmpty;
 
 class ApplicationActionsTest : public AppDelegateTest {
 protected:
-    /// Adds an article of the feed an enclosure.
-    static void enclose(FeedItem& feed, std::size_t index, SyndicatedEnclosure::Kind kind) {
-        feed.articles()[index]->entry->enclosures.push_back({URL::make("http://a.test/file").value(), 0, kind});
-    }
-    std::size_t unread(const std::shared_ptr<Feed>& feed = nullptr) {
-        return feedsManager().articles(ArticleStateFilter::unread, feed).size();
-    }
     bool isValid(std::string_view action, std::shared_ptr<Object> object = nullptr) {
         MenuItem item("", action);
         item.setRepresentedObject(std::move(object));
@@ -29,125 +22,6 @@ TEST_F(ApplicationActionsTest, EndTheResponderChain) {
              "markArticlesAsUnread:", "openAllUnreadArticles:", "showArticle:", "showFeedsBrowser:", "showPreferences:", "openFeed:"})
         EXPECT_EQ(delegate->responderChain()->handler(action), delegate) << action;
     EXPECT_EQ(delegate->responderChain()->handler("delete:"), nullptr);
-}
-
-TEST_F(ApplicationActionsTest, MarkAFeedOrAGroup) {
-    const auto group = add(FeedGroup::make("g"));
-    group->add(makeItem("a", {"1", "2"}), 0);
-    add(makeItem("b", {"3"}));
-    takeCalls();
-    perform(actions::markArticlesAsRead, group);
-    EXPECT_THAT(takeCalls(), ElementsAre("badge 1", "didUpdateFeed g"));
-    EXPECT_EQ(unread(group), 0U);
-    perform(actions::markArticlesAsUnread, group);
-    EXPECT_EQ(unread(group), 2U);
-}
-
-TEST_F(ApplicationActionsTest, MarkEachEntryOfTheTopLevelWhereTheyAreAboutNone) {
-    add(makeItem("a", {"1"}));
-    const auto b = add(makeItem("b", {"2"}));
-    takeCalls();
-    perform(actions::markArticlesAsRead);
-    EXPECT_THAT(takeCalls(), ElementsAre("badge 1", "didUpdateFeed a", "badge ", "didUpdateFeed b"));
-    perform(actions::markArticlesAsUnread, b->articles()[0]);
-    EXPECT_EQ(unread(), 2U);
-}
-
-TEST_F(ApplicationActionsTest, OpenFourUnreadArticlesWithoutAQuestionAndMarkThem) {
-    const auto a = add(makeItem("a", {"1", "-without", "2"}));
-    add(makeItem("b", {"3"}));
-    takeCalls();
-    perform(actions::openAllUnreadArticles);
-    EXPECT_THAT(takeCalls(), ElementsAre("openURL http://a.test/1", "openURL http://a.test/2", "openURL http://a.test/3", "badge 1",
-                                 "didUpdateFeed a", "didUpdateFeed b"));
-    EXPECT_FALSE(a->articles()[1]->entry->isRead());
-    EXPECT_EQ(a->articleStateCache.at("1&http://a.test/1"), 1);
-}
-
-TEST_F(ApplicationActionsTest, OpenTheUnreadArticlesOfOneFeed) {
-    add(makeItem("a", {"1"}));
-    const auto b = add(makeItem("b", {"2"}));
-    takeCalls();
-    perform(actions::openAllUnreadArticles, b);
-    EXPECT_THAT(takeCalls(), ElementsAre("openURL http://a.test/2", "badge 1", "didUpdateFeed b"));
-}
-
-TEST_F(ApplicationActionsTest, AskBeforeTheyOpenFiveArticles) {
-    add(makeItem("a", {"1", "2", "3", "4", "5"}));
-    takeCalls();
-    alerts->response = Alert::firstButtonReturn + 1;
-    perform(actions::openAllUnreadArticles);
-    EXPECT_THAT(takeCalls(), ElementsAre("activate", "beginSheet Open Articles?"));
-    EXPECT_EQ(
-        alerts->alerts[0], (Alert{"Open Articles?", "You are about to open 5 articles. Do you want to continue?", {"Yes", "Cancel"}}));
-    EXPECT_EQ(unread(), 5U);
-    alerts->response = Alert::firstButtonReturn;
-    perform(actions::openAllUnreadArticles);
-    EXPECT_EQ(unread(), 0U);
-}
-
-TEST_F(ApplicationActionsTest, OpenManyArticlesWithoutAQuestionWhereThePreferencesWantNone) {
-    add(makeItem("a", {"1", "2", "3", "4", "5"}));
-    set(preference::warnWhenOpeningArticles, false);
-    perform(actions::openAllUnreadArticles);
-    EXPECT_THAT(alerts->alerts, IsEmpty());
-    EXPECT_EQ(unread(), 0U);
-}
-
-TEST_F(ApplicationActionsTest, ShowAnArticleInAWindowOfItsOwnAndMarkIt) {
-    const auto a = add(makeItem("a", {"1"}));
-    takeCalls();
-    perform(actions::showArticle, a->articles()[0]);
-    EXPECT_THAT(takeCalls(), ElementsAre("showArticleWindow 1", "badge ", "didUpdateFeed article"));
-    EXPECT_EQ(a->articleStateCache.at("1&http://a.test/1"), 1);
-    perform(actions::showArticle, a->articles()[0]);
-    EXPECT_THAT(takeCalls(), ElementsAre("showArticleWindow 1"));
-}
-
-TEST_F(ApplicationActionsTest, ShowAnArticleInTheWebBrowserWhereThePreferencesWantThat) {
-    const auto a = add(makeItem("a", {"1", "-without"}));
-    set(preference::allowFBOpenArticles, false);
-    takeCalls();
-    perform(actions::showArticle, a->articles()[0]);
-    EXPECT_THAT(takeCalls(), ElementsAre("openURL http://a.test/1", "badge 1", "didUpdateFeed article"));
-    perform(actions::showArticle, a->articles()[1]);
-    EXPECT_THAT(takeCalls(), ElementsAre("badge ", "didUpdateFeed article"));
-}
-
-TEST_F(ApplicationActionsTest, OpenInTheOtherBrowserWithTheShiftKey) {
-    const auto a = add(makeItem("a", {"1"}));
-    takeCalls();
-    shiftKeyIsDown = true;
-    perform(actions::showArticle, a->articles()[0]);
-    EXPECT_EQ(takeCalls().front(), "openURL http://a.test/1");
-    set(preference::allowFBOpenArticles, false);
-    perform(actions::showArticle, a->articles()[0]);
-    EXPECT_EQ(takeCalls().front(), "showArticleWindow 1");
-}
-
-TEST_F(ApplicationActionsTest, PlayTheFirstAudioOrVideoWhereThePreferencesWantThat) {
-    const auto a = add(makeItem("a", {"1"}));
-    enclose(*a, 0, SyndicatedEnclosure::Kind::image);
-    enclose(*a, 0, SyndicatedEnclosure::Kind::video);
-    set(preference::articlesOpensSelectedIndex, std::int64_t(1));
-    takeCalls();
-    perform(actions::showArticle, a->articles()[0]);
-    EXPECT_THAT(takeCalls(), ElementsAre("setTitle 1", "showWindow", "badge ", "didUpdateFeed article"));
-    EXPECT_EQ(windows->player->url()->absoluteString(), "http://a.test/file");
-    set(preference::articlesOpensSelectedIndex, std::int64_t(0));
-    perform(actions::showArticle, a->articles()[0]);
-    EXPECT_THAT(takeCalls(), ElementsAre("showArticleWindow 1"));
-}
-
-TEST_F(ApplicationActionsTest, OpenAnArticleWithAnImageOnlyAsAnyOther) {
-    const auto a = add(makeItem("a", {"1", "2"}));
-    enclose(*a, 0, SyndicatedEnclosure::Kind::image);
-    set(preference::articlesOpensSelectedIndex, std::int64_t(1));
-    takeCalls();
-    perform(actions::showArticle, a->articles()[0]);
-    EXPECT_EQ(takeCalls().front(), "showArticleWindow 1");
-    perform(actions::showArticle, a->articles()[1]);
-    EXPECT_EQ(takeCalls().front(), "showArticleWindow 2");
 }
 
 TEST_F(ApplicationActionsTest, ShowNothingAboutAnObjectOfAnotherClass) {
@@ -166,6 +40,25 @@ TEST_F(ApplicationActionsTest, OpenAFeedInTheFeedsBrowser) {
     perform(actions::openFeed, a);
     EXPECT_THAT(takeCalls(), ElementsAre("activate", "showWindow", "setTitle Feeds Browser"));
     EXPECT_EQ(windows->browser->selectedFeed.lock(), a);
+}
+
+TEST_F(ApplicationActionsTest, ListTheArticlesOfAFeedThatTheyOpen) {
+    add(makeItem("a", {"1"}));
+    const auto b = add(makeItem("b", {"2", "3"}));
+    perform(actions::openFeed, b);
+    EXPECT_EQ(windows->browser->splitViewController().articlesViewController().feedItemArticles(), b->articles());
+}
+
+TEST_F(ApplicationActionsTest, OpenAFeedWhereTheShiftKeySays) {
+    const auto a = add(makeItem("a"));
+    a->session().feed()->links.emplace_back().url = URL::make("http://a.test/");
+    shiftKeyIsDown = true;
+    takeCalls();
+    perform(actions::openFeed, a);
+    EXPECT_THAT(takeCalls(), ElementsAre("openURL http://a.test/"));
+    set(preference::allowFBOpenFeed, false);
+    perform(actions::openFeed, a);
+    EXPECT_THAT(takeCalls(), ElementsAre("activate", "showWindow", "setTitle Feeds Browser"));
 }
 
 TEST_F(ApplicationActionsTest, OpenAFeedsSiteInTheWebBrowserWhereThePreferencesWantThat) {
@@ -212,6 +105,13 @@ TEST_F(ApplicationActionsTest, ActivateAProgramThatIsNotInTheDock) {
     EXPECT_EQ(takeCalls().at(0), "activate");
     perform(actions::showFeedsBrowser);
     EXPECT_THAT(takeCalls(), ElementsAre("activate", "activate", "showWindow", "setTitle Feeds Browser"));
+}
+
+TEST_F(ApplicationActionsTest, ActivateSuchAProgramOnceWhereThereIsNoBrowser) {
+    windows->makes = false;
+    set(preference::hideInDock, true);
+    perform(actions::showFeedsBrowser);
+    EXPECT_THAT(takeCalls(), ElementsAre("activate"));
 }
 
 TEST_F(ApplicationActionsTest, DoNothingWithoutTheirWindows) {
@@ -265,6 +165,7 @@ TEST_F(ApplicationActionsTest, AreValidWhereTheyHaveSomethingToDo) {
     EXPECT_FALSE(isValid("markArticlesAsUnread:", b));
     for (const char* action : {"markArticlesAsRead:", "openAllUnreadArticles:", "markArticlesAsUnread:", "newFeed:"})
         EXPECT_TRUE(isValid(action)) << action;
+    EXPECT_TRUE(isValid("markArticlesAsRead:", makeItem("outside", {"3"})));
 }
 
 TEST_F(ApplicationActionsTest, ShowTheFeedsBrowserWhileItIsNotVisible) {

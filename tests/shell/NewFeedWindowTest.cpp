@@ -95,6 +95,7 @@ TEST_F(NewFeedWindowTest, OpensOnAnEmptyFormWithTheAddressReadyForTyping) {
     EXPECT_EQ(pane.title(), "New Feed");
     EXPECT_EQ(pane.nameTextField.stringValue(), "");
     EXPECT_EQ(pane.urlTextField.stringValue(), "");
+    EXPECT_TRUE(pane.nameTextField.isEditable());
     EXPECT_TRUE(pane.urlTextField.isEditable());
     EXPECT_EQ(pane.refreshRatePopupButton.selectedTag(), 5);
     EXPECT_EQ(pane.statusImageView.image(), std::nullopt);
@@ -352,6 +353,7 @@ TEST_F(NewFeedWindowTest, AddsAGroupToTheTopLevelWithoutSaving) {
     add(makeItem("a"));
     delegate->newGroup();
     EXPECT_EQ(group().title(), "New Feed Group");
+    EXPECT_TRUE(group().nameTextField.isEditable());
     EXPECT_EQ(group().nameTextField.stringValue(), "");
     group().nameTextField.setStringValue("G");
     takeCalls();

@@ -12,6 +12,15 @@ namespace {
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
+/// Shows a panel until a test answers it.
+class WaitingPanels : public FilePanels {
+public:
+    void beginOpenPanel(std::string_view, Opened) override {}
+    void beginSavePanel(const SavePanel&, Saved receiver) override { saved = std::move(receiver); }
+
+    Saved saved;
+};
+
 class OPMLActionsTest : public AppDelegateTest {
 protected:
     /// A file of feeds with these names.
@@ -28,6 +37,16 @@ protected:
         alerts->response = response;
         perform(browseractions::importOPML);
     }
+    /// The names of what a next launch would load.
+    std::vector<std::string> storedNames() const {
+        FeedsManager stored(environment.supportDirectory, environment.sessions, {});
+        stored.load();
+        std::vector<std::string> names;
+        for (const std::shared_ptr<Feed>& feed : stored.feeds)
+            names.push_back(feed->name());
+        return names;
+    }
+    bool isStored() const { return std::filesystem::exists(environment.supportDirectory / "Feeds.brindle"); }
     bool become(const std::vector<std::string>& expected) {
         return runMainLoop([&] { return names() == expected; });
     }
@@ -90,11 +109,39 @@ TEST_F(OPMLActionsTest, SaveTheLibraryAsItIsWhileTheFileIsRead) {
     add(makeItem("old"));
     panels->chosen = file("a.opml", {"x"});
     import(Alert::firstButtonReturn);
-    FeedsManager stored(environment.supportDirectory, environment.sessions, {});
-    stored.load();
-    ASSERT_EQ(stored.feeds.size(), 1U);
-    EXPECT_EQ(stored.feeds[0]->name(), "old");
+    EXPECT_THAT(storedNames(), ElementsAre("old"));
     EXPECT_TRUE(become({"x"}));
+    EXPECT_THAT(storedNames(), ElementsAre("old")) << "nothing is saved once it is read";
+}
+
+TEST_F(OPMLActionsTest, SaveNothingAndTellNothingWhenFilesAreOpened) {
+    feedsManager().createSupportDirectories();
+    add(makeItem("old"));
+    takeCalls();
+    delegate->openFiles({file("a.opml", {"x"})});
+    EXPECT_TRUE(become({"old", "x"}));
+    EXPECT_FALSE(isStored());
+    EXPECT_THAT(takeCalls(), ElementsAre("Removing FeedGroup ")) << "of the reader's alone";
+}
+
+TEST_F(OPMLActionsTest, SaveNothingWhereNoFileIsChosen) {
+    feedsManager().createSupportDirectories();
+    add(makeItem("old"));
+    import(Alert::firstButtonReturn);
+    EXPECT_FALSE(isStored());
+    EXPECT_THAT(names(), ElementsAre("old"));
+}
+
+TEST_F(OPMLActionsTest, HoldNoLibraryForAPanelThatIsStillOpen) {
+    const auto waiting = std::make_shared<WaitingPanels>();
+    auto library = std::make_shared<FeedsManager>(folder / "Other", environment.sessions, std::weak_ptr<FeedItemDelegate>());
+    auto opml = OPMLActions::make(library, alerts, waiting);
+    opml->showExport();
+    opml.reset();
+    EXPECT_EQ(library.use_count(), 1);
+    library.reset();
+    waiting->saved(folder / "out.opml", 0);
+    EXPECT_FALSE(std::filesystem::exists(folder / "out.opml"));
 }
 
 TEST_F(OPMLActionsTest, ImportAndExportNothingWhereNoFileIsChosen) {

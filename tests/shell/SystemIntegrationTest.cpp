@@ -6,6 +6,15 @@ namespace {
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
+/// Shows a sheet until a test answers it.
+class WaitingAlerts : public AlertPresenter {
+public:
+    void runModal(const Alert&, Answer) override {}
+    void beginSheet(const Alert&, Answer receiver) override { answer = std::move(receiver); }
+
+    Answer answer;
+};
+
 class SystemIntegrationTest : public AppDelegateTest {
 protected:
     SystemIntegration& integration() { return delegate->systemIntegration(); }
@@ -81,6 +90,41 @@ TEST_F(SystemIntegrationTest, KeepsTheAddressesWhereNoProgramHadThem) {
     EXPECT_EQ(text(preference::previousDefaultRSSReader), "-");
 }
 
+TEST_F(SystemIntegrationTest, HasNobodyToGiveTheAddressesBackToWhereItHadThemBefore) {
+    launchServices->handlers["feed"] = bundleIdentifier;
+    integration().toggleDefaultFeedReader(true);
+    EXPECT_THAT(takeCalls(), ElementsAre("setDefaultHandler feed test.brindle"));
+    EXPECT_EQ(text(preference::previousDefaultRSSReader), "-");
+    EXPECT_TRUE(isOn(preference::isDefaultReader));
+}
+
+TEST_F(SystemIntegrationTest, GivesTheAddressesToNobodyOfAnEmptyName) {
+    set(preference::previousDefaultRSSReader, std::string());
+    integration().toggleDefaultFeedReader(false);
+    EXPECT_THAT(takeCalls(), IsEmpty());
+    EXPECT_FALSE(isOn(preference::isDefaultReader));
+}
+
+TEST_F(SystemIntegrationTest, GivesTheAddressesBackAlsoWithoutABundleIdentifier) {
+    environment.bundleIdentifier.reset();
+    remake();
+    set(preference::isDefaultReader, true);
+    set(preference::previousDefaultRSSReader, std::string("other"));
+    integration().toggleDefaultFeedReader(false);
+    EXPECT_THAT(takeCalls(), ElementsAre("setDefaultHandler feed other"));
+    EXPECT_FALSE(isOn(preference::isDefaultReader));
+}
+
+TEST_F(SystemIntegrationTest, KeepsApartWhomItReplacedAtTheFirstLaunchAndLater) {
+    set(preference::previousFeedReader, std::string("first"));
+    integration().toggleDefaultFeedReader(false);
+    EXPECT_THAT(takeCalls(), IsEmpty());
+    launchServices->handlers["feed"] = "other";
+    integration().toggleDefaultFeedReader(true);
+    EXPECT_EQ(text(preference::previousFeedReader), "first");
+    EXPECT_EQ(text(preference::previousDefaultRSSReader), "other");
+}
+
 TEST_F(SystemIntegrationTest, SetsTheLauncher) {
     integration().toggleLaunchOnLogin(true);
     EXPECT_TRUE(isOn(preference::launchOnLogin));
@@ -104,12 +148,25 @@ TEST_F(SystemIntegrationTest, AsksBeforeItLeavesTheDock) {
     EXPECT_TRUE(isOn(preference::hideInDock));
 }
 
+TEST_F(SystemIntegrationTest, ChangesNothingOnceItIsGone) {
+    const auto waiting = std::make_shared<WaitingAlerts>();
+    auto made = SystemIntegration::make({environment.defaults, nullptr, waiting, nullptr, nullptr, nullptr, nullptr, std::nullopt, {}});
+    made->toggleBackgroundOnly(true, [](bool) {});
+    made.reset();
+    waiting->answer(Alert::firstButtonReturn);
+    EXPECT_FALSE(isOn(preference::hideInDock));
+}
+
 TEST_F(SystemIntegrationTest, PutsTheButtonBackWhenThePersonCancels) {
     std::vector<bool> states;
     alerts->response = Alert::firstButtonReturn + 1;
     integration().toggleBackgroundOnly(true, [&](bool isOn) { states.push_back(isOn); });
     EXPECT_THAT(states, ElementsAre(false));
     EXPECT_FALSE(isOn(preference::hideInDock));
+    set(preference::hideInDock, true);
+    integration().toggleBackgroundOnly(false, [&](bool isOn) { states.push_back(isOn); });
+    EXPECT_THAT(states, ElementsAre(false, true));
+    EXPECT_TRUE(isOn(preference::hideInDock));
 }
 
 } // namespace
