@@ -4,8 +4,8 @@
 #include "SyndicatedParser/SyndicatedEntry.hpp"
 #include "SyndicatedParser/SyndicatedFeedKind.hpp"
 #include "SyndicatedParser/SyndicatedLink.hpp"
+#include "foundation/ColdBytes.hpp"
 #include "foundation/Date.hpp"
-#include "foundation/SharedBytes.hpp"
 
 #include <memory>
 #include <optional>
@@ -33,7 +33,7 @@ public:
     Date dateUpdated;
     std::vector<SyndicatedCategory> categories;
     std::string version;
-    std::optional<SharedBytes> data; ///< the document, in the encoding that decoded it
+    std::optional<ColdBytes> data; ///< the document, in the encoding that decoded it
 
     /// The URL of the first alternate link; where there is none, of the first link.
     std::optional<URL> primaryURL() const;

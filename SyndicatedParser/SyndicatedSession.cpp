@@ -91,12 +91,12 @@ SyndicatedSession::~SyndicatedSession() {
         _currentURLSessionDataTask->cancel();
 }
 
-void SyndicatedSession::start(std::optional<std::string> data) {
+void SyndicatedSession::start(const ColdBytes& data) {
     assertMainThread();
-    if (data && !data->empty())
-        processData(std::move(*data));
-    else
+    if (data.empty())
         connectWhenReachable();
+    else
+        SyndicatedSessionPass::begin(*this, data);
 }
 
 void SyndicatedSession::connectWhenReachable() {
@@ -122,7 +122,7 @@ void SyndicatedSession::connect() {
 
 void SyndicatedSession::didComplete(const std::optional<URLError>& error) {
     if (!error)
-        return processData(std::exchange(_collectedData, {}));
+        return SyndicatedSessionPass::begin(*this, std::exchange(_collectedData, {}));
     Console::print("URLSession failed with error: " + error->description);
     fail({SyndicatedSessionError::Case::connection, error});
 }
@@ -160,10 +160,6 @@ void SyndicatedSession::answerChallenge(const URLSessionDelegate::ChallengeHandl
         completionHandler(Disposition::useCredential, std::move(credential));
     else
         completionHandler(Disposition::rejectProtectionSpace, std::nullopt);
-}
-
-void SyndicatedSession::processData(std::string bytes) {
-    SyndicatedSessionPass::begin(*this, std::move(bytes));
 }
 
 void SyndicatedSession::didDiscoverFeeds(const SyndicatedDiscovery::Feeds& feeds) {

@@ -48,6 +48,8 @@ struct SyndicatedSessionEnvironment {
     std::shared_ptr<NetworkRoute> route;
     /// Null: no icons are looked for.
     std::shared_ptr<IconDiscovery> iconDiscovery;
+    /// For a program that runs for days: what is rarely looked at is kept in little memory, at the price of some time.
+    bool keepsDocumentsCompactly = false;
 };
 
 /// Turns a feed's URL into a filled `SyndicatedFeed`, again at each `start`: fetches, decodes, detects, parses, follows a page to its only
@@ -68,7 +70,7 @@ public:
     void setCustomUserAgent(std::string userAgent) { _customUserAgent = std::move(userAgent); }
 
     /// Fetches and parses the feed; with `data` that is not empty, parses that instead and touches no network.
-    void start(std::optional<std::string> data = std::nullopt);
+    void start(const ColdBytes& data = {});
 
     const URL& url() const { return _url; }
     /// The latest result: replaced as a whole on the main thread when a parse ends.
@@ -87,7 +89,6 @@ private:
     void watchNetwork();
     void connect();
     void connectWhenReachable();
-    void processData(std::string bytes);
     void willPerformRedirection(const URLRequest& newRequest, const URLSessionDelegate::RedirectHandler& completionHandler);
     void didReceiveChallenge(const URLAuthenticationChallenge& challenge, const URLSessionDelegate::ChallengeHandler& completionHandler);
     void answerChallenge(const URLSessionDelegate::ChallengeHandler& completionHandler);

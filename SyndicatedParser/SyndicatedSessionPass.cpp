@@ -7,17 +7,17 @@
 
 namespace brindle {
 
-void SyndicatedSessionPass::begin(SyndicatedSession& session, std::string bytes) {
-    const std::shared_ptr<SyndicatedSessionPass> pass(new SyndicatedSessionPass(session, std::move(bytes)));
+void SyndicatedSessionPass::begin(SyndicatedSession& session, ColdBytes document) {
+    const std::shared_ptr<SyndicatedSessionPass> pass(new SyndicatedSessionPass(session, std::move(document)));
     DispatchQueue(session.url().absoluteString()).async([pass] { pass->run(); });
 }
 
-SyndicatedSessionPass::SyndicatedSessionPass(SyndicatedSession& session, std::string bytes)
+SyndicatedSessionPass::SyndicatedSessionPass(SyndicatedSession& session, ColdBytes document)
     : _session(session.weak_from_this()), _delegate(session.delegate), _environment(session._environment), _url(session._url),
-      _bytes(std::move(bytes)), _base(session._feed) {}
+      _document(std::move(document)), _base(session._feed) {}
 
 void SyndicatedSessionPass::run() {
-    DecodedDocument document = decodeDocument(std::exchange(_bytes, {}));
+    DecodedDocument document = decodeDocument(std::exchange(_document, {}).bytes());
     if (document.text.empty())
         return fail(SyndicatedSessionError::Case::noData);
     const SyndicatedFeedKind kind = detectFeedKind(document.text);
@@ -63,7 +63,7 @@ void SyndicatedSessionPass::didParse(const SyndicatedFeedParserResult& result, c
         return fail(SyndicatedSessionError::Case::invalidFeed);
     _feed->data.reset();
     if (encoding == StringEncoding::utf8)
-        _feed->data = text;
+        _feed->data = std::string(text.view());
     else if (auto bytes = encode(text, encoding))
         _feed->data = *std::move(bytes);
     onMain([](SyndicatedSession& session, SyndicatedSessionDelegate* delegate) {

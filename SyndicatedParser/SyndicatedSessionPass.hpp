@@ -2,6 +2,7 @@
 
 #include "SyndicatedParser/SyndicatedFeedParserError.hpp"
 #include "SyndicatedParser/SyndicatedSession.hpp"
+#include "foundation/SharedBytes.hpp"
 
 #include <memory>
 #include <string>
@@ -13,10 +14,10 @@ namespace brindle {
 class SyndicatedSessionPass : public std::enable_shared_from_this<SyndicatedSessionPass> {
 public:
     /// Thread: main.
-    static void begin(SyndicatedSession& session, std::string bytes);
+    static void begin(SyndicatedSession& session, ColdBytes document);
 
 private:
-    SyndicatedSessionPass(SyndicatedSession& session, std::string bytes);
+    SyndicatedSessionPass(SyndicatedSession& session, ColdBytes document);
 
     // On the pass's queue.
     void run();
@@ -39,7 +40,7 @@ private:
     const std::weak_ptr<SyndicatedSessionDelegate> _delegate;
     const SyndicatedSessionEnvironment _environment;
     const URL _url;
-    std::string _bytes;
+    ColdBytes _document;                               ///< as fetched or stored; read on the pass's queue
     const std::shared_ptr<const SyndicatedFeed> _base; ///< the session's feed when the pass began
     std::shared_ptr<SyndicatedFeed> _feed;             ///< what this pass fills; null before the kind is known
 };

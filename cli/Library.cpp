@@ -161,7 +161,7 @@ void Library::bringBack(const FeedsManager::Feeds& list) {
     for (const std::shared_ptr<FeedItem>& item : FeedsManager::items(list)) {
         if (item->data.empty())
             continue;
-        item->session().start(std::string(item->data.view()));
+        item->session().start(item->data);
         _answers->expect(*item);
     }
     // Parsing always ends; there is nothing from outside to wait for.

@@ -39,8 +39,10 @@ void FeedFiles::createDirectories() const {
 }
 
 void FeedFiles::load(FeedItem& item) const {
-    if (auto document = FileManager::contents(path(dataFolder, item)))
-        item.data = *std::move(document);
+    if (const ColdBytes document = ColdBytes::ofFile(path(dataFolder, item)); !document.empty()) {
+        item.data = document;
+        item.storedData = document;
+    }
     if (const auto bytes = FileManager::contents(path(cachesFolder, item))) {
         if (auto states = decodeArticleStates(*bytes))
             item.articleStateCache = *std::move(states);
@@ -53,13 +55,41 @@ void FeedFiles::load(FeedItem& item) const {
 
 void FeedFiles::save(const std::vector<std::shared_ptr<FeedItem>>& items) const {
     AtomicFileBatch batch;
+    bool areStored = true;
     for (const std::shared_ptr<FeedItem>& item : items) {
-        batch.add(path(dataFolder, *item), item->data);
+        areStored = addDocument(batch, *item) && areStored;
         batch.add(path(cachesFolder, *item), encodeArticleStates(item->articleStateCache));
         if (const auto& image = item->feedImageData())
             batch.add(path(imagesFolder, *item), *image);
     }
-    batch.commit();
+    // Only what surely lies in its file may leave the memory.
+    if (!batch.commit().empty() || !areStored)
+        return;
+    for (const std::shared_ptr<FeedItem>& item : items)
+        leaveDocument(*item);
+}
+
+/// A document that still lies in its file is not written again.
+bool FeedFiles::addDocument(AtomicFileBatch& batch, const FeedItem& item) const {
+    const fs::path file = path(dataFolder, item);
+    if (item.data.file() == file)
+        return true;
+    // Older articles that somebody keeps have their texts there.
+    if (item.storedData.isShared())
+        item.storedData.takeBack();
+    return batch.add(file, item.data.bytes()).has_value();
+}
+
+void FeedFiles::leaveDocument(FeedItem& item) const {
+    item.data.leaveIn(path(dataFolder, item));
+    item.storedData = item.data;
+}
+
+void FeedFiles::takeBackDocuments(const std::vector<std::shared_ptr<FeedItem>>& items) const {
+    for (const std::shared_ptr<FeedItem>& item : items) {
+        item->data.takeBack();
+        item->storedData.takeBack();
+    }
 }
 
 void FeedFiles::remove(const FeedItem& item) const {

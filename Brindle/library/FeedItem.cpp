@@ -1,6 +1,8 @@
 #include "Brindle/library/FeedItem.hpp"
 
+#include "Brindle/library/Compaction.hpp"
 #include "Brindle/library/FeedItemArticle.hpp"
+#include "Brindle/library/StoredContents.hpp"
 #include "SyndicatedParser/Makers.hpp"
 #include "foundation/Console.hpp"
 #include "foundation/FatalError.hpp"
@@ -164,9 +166,22 @@ void FeedItem::syndicatedSessionDidFinishParsing(SyndicatedSession& session) {
     // so that an article that comes back keeps its state.
     for (std::size_t i = 0; i < keys.size(); ++i)
         articleStateCache.insert_or_assign(std::move(keys[i]), static_cast<std::int64_t>(_articles[i]->entry->state()));
-    data = feed->data.value_or(SharedBytes());
+    data = feed->data.value_or(ColdBytes());
+    if (_environment.keepsDocumentsCompactly)
+        keepCompactly(*feed);
     if (const auto receiver = delegate.lock())
         receiver->feedItemDidFinishParsing(*this, newArticles);
+}
+
+void FeedItem::keepCompactly(const SyndicatedFeed& feed) {
+    if (!feed.data)
+        return;
+    if (data == storedData) {
+        data.leaveIn(storedData.file());
+        storedData = data;
+    }
+    StoredContents::takeFrom(feed, _environment.clock);
+    compactLater(data);
 }
 
 void FeedItem::syndicatedSessionDidFail(SyndicatedSession&, const SyndicatedSessionError& error) {
@@ -177,7 +192,7 @@ void FeedItem::syndicatedSessionDidFail(SyndicatedSession&, const SyndicatedSess
         _lastConnectionFailed = !error.error || error.error->code != URLError::Code::cancelled;
         Console::print("A connection error occured: " + (error.error ? error.error->description : "unknown"));
         if (!data.empty())
-            return _session->start(std::string(data.view()));
+            return _session->start(data);
         reported = error.error ? std::optional<FeedItemError>(*error.error) : std::nullopt;
     } else if (const auto host = url().host(); host && name().empty()) {
         setName(std::string(*host));

@@ -4,7 +4,7 @@
 #include "Brindle/library/Feed.hpp"
 #include "Brindle/library/FeedItemDelegate.hpp"
 #include "SyndicatedParser/SyndicatedSession.hpp"
-#include "foundation/SharedBytes.hpp"
+#include "foundation/ColdBytes.hpp"
 #include "foundation/Timer.hpp"
 #include "foundation/UUID.hpp"
 
@@ -39,7 +39,8 @@ public:
     std::int64_t updateRate;    ///< minutes
     std::string username;       ///< archived, never sent
     std::string password;       ///< never archived, never sent
-    SharedBytes data;           ///< the document of the latest good fetch; empty when there is none
+    ColdBytes data;             ///< the document of the latest good fetch; empty when there is none
+    ColdBytes storedData;       ///< what the feed's file has; empty when there is none
     ArticleStateCache articleStateCache;
 
     /// The stored name; where that is empty, the title of the feed as parsed.
@@ -84,6 +85,7 @@ private:
     FeedItem(
         std::string name, URL url, std::int64_t rate, std::string user, std::string pass, const SyndicatedSessionEnvironment& environment);
     std::shared_ptr<FeedItem> shared();
+    void keepCompactly(const SyndicatedFeed& feed);
 
     SyndicatedSessionEnvironment _environment;
     std::shared_ptr<SyndicatedSession> _session;

@@ -198,7 +198,9 @@ void FeedsManager::clearImages(const Feeds& list) {
 }
 
 void FeedsManager::resetCaches() {
-    FeedFiles(_supportDirectory).removeAll();
+    const FeedFiles files(_supportDirectory);
+    files.takeBackDocuments(items(feeds));
+    files.removeAll();
 }
 
 void FeedsManager::resetCaches(const FeedItem& item) {

@@ -142,7 +142,7 @@ TEST_F(SyndicatedSessionTest, ReadsLatin1WhereABodyIsNotUTF8AndKeepsThatEncoding
     ASSERT_TRUE(update("/x", "endIconStep"));
     EXPECT_EQ(_session->feed()->title, "Caf\xC3\xA9");
     ASSERT_TRUE(_session->feed()->data);
-    EXPECT_NE(_session->feed()->data->view().find("Caf\xE9"), std::string::npos);
+    EXPECT_NE(_session->feed()->data->bytes().find("Caf\xE9"), std::string::npos);
 }
 
 TEST_F(SyndicatedSessionTest, LeavesTheDataAbsentWhereTheTextCannotBeEncodedBack) {

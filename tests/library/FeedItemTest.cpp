@@ -147,7 +147,7 @@ TEST_F(FeedItemTest, TakesOnlyTheValueOneForRead) {
 TEST_F(FeedItemTest, TakesADocumentWithoutEntriesForItsNewContent) {
     const auto item = makeItem();
     parse(*item, rss({{"A", ""}}));
-    const SharedBytes first = item->data;
+    const ColdBytes first = item->data;
     const auto call = parse(*item, rss({}));
     EXPECT_EQ(call.name, "feedItemDidFinishParsing");
     EXPECT_THAT(call.newArticles, IsEmpty());
@@ -315,7 +315,7 @@ TEST_F(FeedItemTest, ReportsAsNewFromTheStoredDocumentWhatItsTableDoesNotKnow) {
 TEST_F(FeedItemTest, ReportsEveryOtherFailureAsItIsAndKeepsItsArticles) {
     const auto item = makeItem();
     parse(*item, rss({{"A", ""}}));
-    const SharedBytes data = item->data;
+    const ColdBytes data = item->data;
     using Case = SyndicatedSessionError::Case;
     for (const Case kind : {Case::other, Case::noData, Case::noURL, Case::invalidFeed}) {
         item->syndicatedSessionDidFail(item->session(), error(kind));

@@ -64,7 +64,7 @@ protected:
             const auto& states = item.articleStateCache;
             EXPECT_TRUE(states.size() == 1 && (states.count(content('A', feed, 20)) == 1 || states.count(content('B', feed, 20)) == 1))
                 << feed;
-            versions.insert({item.name()[0], item.data[0], image[0], states.begin()->first[0]});
+            versions.insert({item.name()[0], item.data.bytes()[0], image[0], states.begin()->first[0]});
         }
         if (HasFailure())
             return broken;
