@@ -9,7 +9,7 @@ namespace brindle {
 /// A text of an entry with its kind.
 class SyndicatedContent {
 public:
-    /// Where texts can be read again. Thread: any.
+    /// Where texts can be read again. Thread: main.
     class Source {
     public:
         virtual ~Source() = default;

@@ -2,9 +2,9 @@
 
 #include "SyndicatedParser/FeedKindDetection.hpp"
 #include "SyndicatedParser/FeedParserFactory.hpp"
+#include "foundation/RunLoop.hpp"
 
 #include <array>
-#include <mutex>
 #include <utility>
 #include <vector>
 
@@ -14,7 +14,6 @@ namespace {
 
 /// The document that was read last: whoever asks for one text of a feed often asks for its neighbours.
 struct LastRead {
-    std::mutex mutex;
     std::weak_ptr<const StoredContents> source;
     std::vector<std::string> texts;
 };
@@ -45,8 +44,8 @@ void StoredContents::takeFrom(const SyndicatedFeed& feed, std::shared_ptr<const 
 }
 
 std::string StoredContents::text(std::size_t number) const {
+    assertMainThread();
     LastRead& last = lastRead();
-    const std::scoped_lock lock(last.mutex);
     if (last.source.lock().get() != this) {
         last.texts = readTexts();
         last.source = weak_from_this();

@@ -9,7 +9,7 @@
 namespace brindle {
 
 /// Takes the long texts of a feed's entries out of memory: they are read out of the feed's document again when one is asked for. The texts
-/// of the document that was read last are at hand. Thread: any.
+/// of the document that was read last are at hand. Thread: main.
 class StoredContents : public SyndicatedContent::Source, public std::enable_shared_from_this<StoredContents> {
 public:
     /// `feed` is as parsed from its `data`, which must be there, and shows the same texts afterwards.
