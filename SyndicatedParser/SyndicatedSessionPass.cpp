@@ -1,6 +1,7 @@
 #include "SyndicatedParser/SyndicatedSessionPass.hpp"
 
 #include "SyndicatedParser/FeedParserFactory.hpp"
+#include "SyndicatedParser/StoredContents.hpp"
 #include "foundation/DispatchQueue.hpp"
 
 #include <utility>
@@ -66,11 +67,19 @@ void SyndicatedSessionPass::didParse(const SyndicatedFeedParserResult& result, c
         _feed->data = std::string(text.view());
     else if (auto bytes = encode(text, encoding))
         _feed->data = *std::move(bytes);
+    if (_environment.keepsDocumentsCompactly && _feed->data)
+        keepCompactly();
     onMain([](SyndicatedSession& session, SyndicatedSessionDelegate* delegate) {
         if (delegate)
             delegate->syndicatedSessionDidFinishParsing(session);
     });
     discoverIcon();
+}
+
+/// Here, not on the main thread: where many feeds end at once, their documents wait there in line.
+void SyndicatedSessionPass::keepCompactly() {
+    StoredContents::takeFrom(*_feed, _environment.clock);
+    _feed->data->compress();
 }
 
 void SyndicatedSessionPass::discoverFeeds(std::string page) {

@@ -23,6 +23,7 @@ private:
     void run();
     void parse(SyndicatedFeedKind kind, DecodedDocument document);
     void didParse(const SyndicatedFeedParserResult& result, const SharedBytes& text, StringEncoding encoding);
+    void keepCompactly();
     void discoverFeeds(std::string page);
     void discoverIcon();
     std::optional<URL> siteRoot() const;

@@ -1,8 +1,6 @@
 #include "Brindle/library/FeedItem.hpp"
 
-#include "Brindle/library/Compaction.hpp"
 #include "Brindle/library/FeedItemArticle.hpp"
-#include "Brindle/library/StoredContents.hpp"
 #include "SyndicatedParser/Makers.hpp"
 #include "foundation/Console.hpp"
 #include "foundation/FatalError.hpp"
@@ -167,21 +165,12 @@ void FeedItem::syndicatedSessionDidFinishParsing(SyndicatedSession& session) {
     for (std::size_t i = 0; i < keys.size(); ++i)
         articleStateCache.insert_or_assign(std::move(keys[i]), static_cast<std::int64_t>(_articles[i]->entry->state()));
     data = feed->data.value_or(ColdBytes());
-    if (_environment.keepsDocumentsCompactly)
-        keepCompactly(*feed);
-    if (const auto receiver = delegate.lock())
-        receiver->feedItemDidFinishParsing(*this, newArticles);
-}
-
-void FeedItem::keepCompactly(const SyndicatedFeed& feed) {
-    if (!feed.data)
-        return;
-    if (data == storedData) {
+    if (data == storedData && !data.empty()) {
         data.leaveIn(storedData.file());
         storedData = data;
     }
-    StoredContents::takeFrom(feed, _environment.clock);
-    compactLater(data);
+    if (const auto receiver = delegate.lock())
+        receiver->feedItemDidFinishParsing(*this, newArticles);
 }
 
 void FeedItem::syndicatedSessionDidFail(SyndicatedSession&, const SyndicatedSessionError& error) {

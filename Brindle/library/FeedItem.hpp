@@ -85,7 +85,6 @@ private:
     FeedItem(
         std::string name, URL url, std::int64_t rate, std::string user, std::string pass, const SyndicatedSessionEnvironment& environment);
     std::shared_ptr<FeedItem> shared();
-    void keepCompactly(const SyndicatedFeed& feed);
 
     SyndicatedSessionEnvironment _environment;
     std::shared_ptr<SyndicatedSession> _session;

@@ -9,10 +9,10 @@
 namespace brindle {
 
 /// Takes the long texts of a feed's entries out of memory: they are read out of the feed's document again when one is asked for. The texts
-/// of the document that was read last are at hand. Thread: main.
+/// of the document that was read last are at hand. Thread: main, but for `takeFrom`.
 class StoredContents : public SyndicatedContent::Source, public std::enable_shared_from_this<StoredContents> {
 public:
-    /// `feed` is as parsed from its `data`, which must be there, and shows the same texts afterwards.
+    /// `feed` is as parsed from its `data`, which must be there, and shows the same texts afterwards. Thread: the one that has the feed.
     static void takeFrom(const SyndicatedFeed& feed, std::shared_ptr<const Clock> clock);
 
     std::string text(std::size_t number) const override;

@@ -1,4 +1,4 @@
-#include "Brindle/library/StoredContents.hpp"
+#include "SyndicatedParser/StoredContents.hpp"
 
 #include "SyndicatedParser/FeedKindDetection.hpp"
 #include "SyndicatedParser/FeedParserFactory.hpp"

@@ -1,5 +1,3 @@
-#include "Brindle/library/StoredContents.hpp"
-
 #include "Brindle/library/FeedItemArticle.hpp"
 #include "tests/library/LibraryFixture.hpp"
 
@@ -9,9 +7,9 @@ namespace brindle {
 namespace {
 
 /// What a program that runs for days keeps in memory of the documents that it has read.
-class StoredContentsTest : public LibraryTest {
+class StoredDocumentsTest : public LibraryTest {
 protected:
-    StoredContentsTest() { environment.keepsDocumentsCompactly = true; }
+    StoredDocumentsTest() { environment.keepsDocumentsCompactly = true; }
 
     static std::string longText(const std::string& word) {
         std::string text;
@@ -44,7 +42,7 @@ protected:
     }
 };
 
-TEST_F(StoredContentsTest, GivesEveryTextAsItWasRead) {
+TEST_F(StoredDocumentsTest, GivesEveryTextAsItWasRead) {
     const std::string text = document({longText("one"), "short", longText("two"), ""});
     const auto item = makeItem();
     parse(*item, text);
@@ -53,7 +51,7 @@ TEST_F(StoredContentsTest, GivesEveryTextAsItWasRead) {
     EXPECT_NE(contents(*item)[0].find("one <b>\xC3\xA9"), std::string::npos);
 }
 
-TEST_F(StoredContentsTest, GivesBothTextsOfAnAtomEntry) {
+TEST_F(StoredDocumentsTest, GivesBothTextsOfAnAtomEntry) {
     const std::string text = "<feed xmlns=\"http://www.w3.org/2005/Atom\"><title>F</title><entry><title>T</title><summary>" +
                              longText("sum") + "</summary><content type=\"html\">" + longText("con") + "</content></entry></feed>";
     const auto item = makeItem();
@@ -63,7 +61,7 @@ TEST_F(StoredContentsTest, GivesBothTextsOfAnAtomEntry) {
     EXPECT_NE(entry.summary->content().find("sum"), std::string::npos);
 }
 
-TEST_F(StoredContentsTest, KeepsTheTextsOfAnEarlierDocumentForWhoHoldsItsArticles) {
+TEST_F(StoredDocumentsTest, KeepsTheTextsOfAnEarlierDocumentForWhoHoldsItsArticles) {
     const auto manager = makeManager();
     const auto item = makeItem();
     manager->addFeed(item, 0);
@@ -76,7 +74,7 @@ TEST_F(StoredContentsTest, KeepsTheTextsOfAnEarlierDocumentForWhoHoldsItsArticle
     EXPECT_NE(contents(*item)[0].find("new"), std::string::npos);
 }
 
-TEST_F(StoredContentsTest, LeavesADocumentInItsFileOnceItIsSaved) {
+TEST_F(StoredDocumentsTest, LeavesADocumentInItsFileOnceItIsSaved) {
     const auto manager = makeManager();
     const auto item = makeItem();
     manager->addFeed(item, 0);
@@ -94,7 +92,7 @@ TEST_F(StoredContentsTest, LeavesADocumentInItsFileOnceItIsSaved) {
     EXPECT_EQ(item->data.file(), "");
 }
 
-TEST_F(StoredContentsTest, ReadsNoDocumentWhenTheLibraryIsLoaded) {
+TEST_F(StoredDocumentsTest, ReadsNoDocumentWhenTheLibraryIsLoaded) {
     const auto item = makeItem();
     {
         const auto manager = makeManager();
@@ -108,7 +106,7 @@ TEST_F(StoredContentsTest, ReadsNoDocumentWhenTheLibraryIsLoaded) {
     EXPECT_EQ(loaded->data, "document");
 }
 
-TEST_F(StoredContentsTest, KeepsADocumentInMemoryThatCouldNotBeStored) {
+TEST_F(StoredDocumentsTest, KeepsADocumentInMemoryThatCouldNotBeStored) {
     const auto manager = makeManager();
     const auto item = makeItem();
     manager->addFeed(item, 0);
@@ -120,7 +118,7 @@ TEST_F(StoredContentsTest, KeepsADocumentInMemoryThatCouldNotBeStored) {
     EXPECT_EQ(item->data, "document");
 }
 
-TEST_F(StoredContentsTest, KeepsTheTextsWhenTheCachesAreReset) {
+TEST_F(StoredDocumentsTest, KeepsTheTextsWhenTheCachesAreReset) {
     const auto manager = makeManager();
     const auto item = makeItem();
     manager->addFeed(item, 0);
