@@ -34,7 +34,7 @@ public:
     virtual void insertItem(std::size_t index, const OutlineItem& parent) = 0;
     /// A row that goes is selected no more, nor is any other in its place; the delegate is told where it, or one below it, was.
     virtual void removeItem(std::size_t index, const OutlineItem& parent) = 0;
-    /// A row that moves stays selected.
+    /// A row that moves stays selected, unless it moves out of sight; the delegate is told where it, or one below it, was.
     virtual void moveItem(std::size_t index, const OutlineItem& parent, std::size_t newIndex, const OutlineItem& newParent) = 0;
 
     /// In ascending order.

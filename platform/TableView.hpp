@@ -30,7 +30,8 @@ public:
     virtual void setDataSource(std::weak_ptr<TableViewDataSource> dataSource) = 0;
     virtual void setColumnHidden(std::string_view column, bool isHidden) = 0;
 
-    /// Nothing is selected afterwards; the data source is not told of that.
+    /// Nothing is selected afterwards but, where the desktop can tell, the row that shows what the selected one did; the data source is not
+    /// told of that.
     virtual void reloadData() = 0;
     virtual void reloadRow(std::size_t row, const std::vector<std::string_view>& columns) = 0;
 

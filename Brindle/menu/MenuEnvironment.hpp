@@ -29,6 +29,8 @@ struct MenuEnvironment {
     std::shared_ptr<ArticlePreviewFactory> previews;
     /// The name of the status item's image, by whether any article is unread.
     std::function<std::string(const UserDefaults& defaults, bool hasUnreadArticles)> statusIconName;
+    /// Whether the desktop shows a menu of the application somewhere, as long as the program is listed among the running ones.
+    bool hasApplicationMenu = true;
 };
 
 } // namespace brindle

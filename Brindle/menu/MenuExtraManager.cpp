@@ -153,7 +153,7 @@ void MenuExtraManager::buildMenu(const std::shared_ptr<MenuRebuild>& rebuild) {
     const FeedsManager::Feeds& feeds = _environment.feedsManager->feeds;
     _menuItemRepresentations.clear();
     _menu->removeAllItems();
-    if (defaults.boolForKey(preference::hideInDock)) {
+    if (!_environment.hasApplicationMenu || defaults.boolForKey(preference::hideInDock)) {
         appendGeneralItem();
         _menu->addItem(MenuItem::separatorItem());
     }

@@ -109,9 +109,9 @@ const std::shared_ptr<CollectionEntityManager>& AppDelegate::collectionEntityMan
 
 const std::shared_ptr<MenuExtraManager>& AppDelegate::menuExtraManager() {
     if (!_menuExtraManager) {
-        _menuExtraManager =
-            MenuExtraManager::make({feedsManager(), collectionEntityManager(), _environment.defaults, _environment.statusItem,
-                _environment.dockTile, _environment.application, weak_from_this(), _environment.previews, statusIconName});
+        _menuExtraManager = MenuExtraManager::make(
+            {feedsManager(), collectionEntityManager(), _environment.defaults, _environment.statusItem, _environment.dockTile,
+                _environment.application, weak_from_this(), _environment.previews, statusIconName, _environment.hasApplicationMenu});
     }
     return _menuExtraManager;
 }

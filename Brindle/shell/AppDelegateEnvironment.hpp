@@ -33,6 +33,8 @@ struct AppDelegateEnvironment {
     std::filesystem::path supportDirectory; ///< `applicationSupportDirectory`
     std::filesystem::path resources;        ///< the folder of the program's resources
     std::string defaultFeedAddress;         ///< of the program's own news feed
+    bool hasApplicationMenu = true;         ///< whether the desktop shows a menu of the application beside that of the status item
+    bool startsInBackground = false;        ///< whether the feeds browser stays away at the start, whatever the preferences say
     std::optional<std::string> bundleIdentifier;
     std::string launcherApplicationBundleID;
     SyndicatedSessionEnvironment sessions;

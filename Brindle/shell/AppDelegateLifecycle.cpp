@@ -77,7 +77,7 @@ void AppDelegate::startApplication() {
     savedArticlesManager()->load();
     registerSystemObservers();
     updateMenu();
-    if (_environment.defaults->boolForKey(preference::hideFBOnStartup))
+    if (_environment.startsInBackground || _environment.defaults->boolForKey(preference::hideFBOnStartup))
         return;
     _environment.application->activate();
     if (const auto browser = _windows->feedsBrowser(browserEnvironment())) {

@@ -18,6 +18,13 @@ TEST_F(MenuExtraManagerTest, HangsAnEmptyMenuFromTheStatusItemAtFirst) {
     EXPECT_FALSE(menuExtraManager->isMenuUpdateRequested());
 }
 
+TEST_F(MenuExtraManagerTest, HasTheGeneralItemWhereTheDesktopHasNoMenuOfTheApplication) {
+    set(preference::showFeedsBrowser, false);
+    menuExtraManager = MenuExtraManager::make(
+        {manager, collections, defaults, statusItem, dockTile, application, applicationDelegate, previews, statusIconName, false});
+    EXPECT_EQ(updated().substr(0, 8), "General\n");
+}
+
 TEST_F(MenuExtraManagerTest, BuildsTheWholeMenuInOrder) {
     set(preference::hideInDock, true);
     set(preference::showMarkAllUnread, true);

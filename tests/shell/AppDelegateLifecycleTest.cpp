@@ -127,6 +127,13 @@ TEST_F(AppDelegateLifecycleTest, ShowsNoWindowWhereThePreferencesWantNone) {
     EXPECT_EQ(windows->browsersMade, 0);
 }
 
+TEST_F(AppDelegateLifecycleTest, ShowsNoWindowWhenItStartsInTheBackground) {
+    environment.startsInBackground = true;
+    remake();
+    launch();
+    EXPECT_EQ(windows->browsersMade, 0);
+}
+
 TEST_F(AppDelegateLifecycleTest, StopsAtTheSplashOfTheFirstLaunch) {
     delegate->applicationWillFinishLaunching();
     EXPECT_THAT(takeCalls(), ElementsAre("setActivationPolicy 0", "showSplash", "activate"));
