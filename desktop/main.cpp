@@ -1,0 +1,116 @@
+#include "desktop/Desktop.hpp"
+#include "desktop/toolkit/Images.hpp"
+#include "desktop/toolkit/Text.hpp"
+#include "desktop/windows/WebPluginLoader.hpp"
+#include "foundation/FileLock.hpp"
+#include "foundation/FileManager.hpp"
+#include "foundation/LocalizedStrings.hpp"
+#include "foundation/UserLocale.hpp"
+
+#include <QApplication>
+#include <QCryptographicHash>
+#include <QLibraryInfo>
+#include <QLocale>
+#include <QMessageBox>
+#include <QTranslator>
+#include <csignal>
+#include <iostream>
+
+namespace brindle::desktop {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr int failed = 1;
+constexpr int wrongUsage = 2;
+
+/// Without one the toolkit would abort.
+bool hasDisplay() {
+    return !qEnvironmentVariableIsEmpty("DISPLAY") || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") ||
+           !qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM");
+}
+
+/// A library of its own makes another instance of the program.
+QString instanceName(const Options& options) {
+    const QString standard = QLatin1String(SingleInstance::standardName);
+    if (!options.supportDirectory)
+        return standard;
+    const QByteArray folder = QByteArray::fromStdString(options.supportDirectory->string());
+    return standard + QStringLiteral(".folder") +
+           QString::fromLatin1(QCryptographicHash::hash(folder, QCryptographicHash::Sha256).toHex().left(16));
+}
+
+QStringList toQStringList(const std::vector<std::string>& texts) {
+    QStringList list;
+    for (const std::string& text : texts)
+        list.append(toQString(text));
+    return list;
+}
+
+void loadTexts(const fs::path& resources) {
+    // Without their tables the program shows the keys, and works all the same.
+    static_cast<void>(LocalizedStrings::load(resources / "localisation", {userLocale()}));
+    auto* const own = new QTranslator(qApp);
+    if (own->load(QLocale(), QStringLiteral("qtbase"), QStringLiteral("_"), QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QCoreApplication::installTranslator(own);
+}
+
+int refuse(const std::string& text) {
+    std::cerr << "brindle: " << text << '\n';
+    QMessageBox::critical(nullptr, QGuiApplication::applicationDisplayName(), toQString(text));
+    return failed;
+}
+
+int run(const Options& options) {
+    const fs::path programs = fromQString(QCoreApplication::applicationDirPath());
+    const fs::path resources = programs.parent_path() / "share" / "brindle";
+    loadTexts(resources);
+    SingleInstance instance(QDBusConnection::sessionBus(), instanceName(options));
+    if (!instance.acquire()) {
+        const bool isDone = instance.handOver(toQStringList(options.uris()));
+        return isDone ? 0 : refuse(localized("Brindle runs already, and doesn't answer."));
+    }
+    const fs::path support = options.supportDirectory ? *options.supportDirectory : AppDelegate::applicationSupportDirectory();
+    // A folder that can't be written to is no reason not to read.
+    static_cast<void>(FileManager::createDirectory(support));
+    const auto lock = FileLock::tryLock(support / ".lock");
+    if (lock && !*lock)
+        return refuse(localized("The library is in use by another program."));
+    return Desktop(options, support, resources, instance).run();
+}
+
+int start(int argc, char** argv) {
+    std::error_code unknownFolder;
+    const auto options = Options::parse({argv + std::min(argc, 1), argv + argc}, fs::current_path(unknownFolder));
+    if (!options) {
+        std::cerr << "brindle: " << options.error() << "\n\n" << Options::usage();
+        return wrongUsage;
+    }
+    if (options->help || options->version) {
+        std::cout << (options->help ? Options::usage() : "brindle " BRINDLE_VERSION "\n");
+        return 0;
+    }
+    if (!hasDisplay()) {
+        std::cerr << "brindle: there is no display. brindle-cli works without one.\n";
+        return failed;
+    }
+    // A reader of the console that went away is no reason to end.
+    std::signal(SIGPIPE, SIG_IGN);
+    WebPluginLoader::prepareEnvironment();
+    int plainArguments = 1;
+    const QApplication application(plainArguments, argv);
+    QApplication::setApplicationName(QStringLiteral("brindle"));
+    QApplication::setApplicationDisplayName(QStringLiteral("Brindle"));
+    QApplication::setApplicationVersion(QStringLiteral(BRINDLE_VERSION));
+    QApplication::setDesktopFileName(QLatin1String(SingleInstance::standardName));
+    QApplication::setWindowIcon(images::icon(Image::named("brindle")));
+    QApplication::setQuitOnLastWindowClosed(false);
+    return run(*options);
+}
+
+} // namespace
+} // namespace brindle::desktop
+
+int main(int argc, char** argv) {
+    return brindle::desktop::start(argc, argv);
+}

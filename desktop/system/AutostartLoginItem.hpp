@@ -1,0 +1,26 @@
+#pragma once
+
+#include "desktop/system/XDGFolders.hpp"
+#include "platform/LoginItem.hpp"
+
+#include <string>
+
+namespace brindle::desktop {
+
+/// Starts the program at login by an entry in the user's autostart folder (Desktop Application Autostart Specification). Thread: main.
+class AutostartLoginItem : public LoginItem {
+public:
+    /// `program` is what the entry starts, in the background.
+    AutostartLoginItem(XDGFolders folders, std::filesystem::path program) : _folders(std::move(folders)), _program(std::move(program)) {}
+
+    [[nodiscard]] bool setEnabled(const std::string& bundleIdentifier, bool isEnabled) override;
+
+    /// A word of a command as desktop entries quote it: for the command line, and that as a string of the file.
+    static std::string quoted(std::string_view word);
+
+private:
+    const XDGFolders _folders;
+    const std::filesystem::path _program;
+};
+
+} // namespace brindle::desktop

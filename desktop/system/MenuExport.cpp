@@ -1,0 +1,237 @@
+#include "desktop/system/MenuExport.hpp"
+
+#include "desktop/toolkit/Images.hpp"
+#include "desktop/toolkit/Text.hpp"
+
+#include <QBuffer>
+#include <QCoreApplication>
+#include <algorithm>
+#include <deque>
+#include <utility>
+
+namespace brindle::desktop {
+
+namespace {
+
+/// How many items are told before anyone looks.
+constexpr std::size_t itemsAtOnce = 300;
+/// A message of the bus nests 64 containers at most, and each level of a layout takes three.
+constexpr int deepestLayout = 16;
+constexpr int iconSide = 16;
+
+/// A menu with a delegate gets what it shows when it opens, a view. Panels draw none: the item above it is chosen for itself.
+bool isForView(const Menu& menu) {
+    return !menu.delegate.expired();
+}
+
+/// Counts at the end of a title change from one rebuild to the next.
+std::string titleWithoutCount(const std::string& title) {
+    const std::size_t count = title.ends_with(')') ? title.rfind(" (") : std::string::npos;
+    return title.substr(0, count);
+}
+
+/// Underscores would mark shortcuts.
+QString label(const std::string& title) {
+    return toQString(title).simplified().replace(QLatin1Char('_'), QLatin1String("__"));
+}
+
+QByteArray iconData(const Image& image) {
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    images::pixmap(image, {iconSide, iconSide}, 1).save(&buffer, "PNG");
+    return bytes;
+}
+
+} // namespace
+
+std::shared_ptr<MenuExport> MenuExport::make(std::shared_ptr<Menu> menu, std::shared_ptr<ResponderChain> chain) {
+    const std::shared_ptr<MenuExport> made(new MenuExport(std::move(menu), std::move(chain)));
+    made->_self = made;
+    made->observe(made->_menu);
+    return made;
+}
+
+MenuExport::MenuExport(std::shared_ptr<Menu> menu, std::shared_ptr<ResponderChain> chain)
+    : _menu(std::move(menu)), _chain(std::move(chain)) {
+    _layoutTimer.setSingleShot(true);
+    connect(&_layoutTimer, &QTimer::timeout, this, [this] { tellLayout(); });
+}
+
+void MenuExport::rebuild() {
+    _isStale = false;
+    std::set<int> looked;
+    for (const auto& [id, node] : _nodes) {
+        if (node.isFilled)
+            looked.insert(id);
+    }
+    _nodes.clear();
+    _idsOfItems.clear();
+    _changed.clear();
+    _formerIds = std::exchange(_ids, {});
+    _nodes[0].menu = _menu;
+    std::deque<int> toFill = {0};
+    while (!toFill.empty()) {
+        const int id = toFill.front();
+        toFill.pop_front();
+        if (id != 0 && _nodes.size() > itemsAtOnce && !looked.contains(id))
+            continue;
+        fill(id);
+        for (const int child : _nodes[id].children) {
+            if (_nodes[child].menu)
+                toFill.push_back(child);
+        }
+    }
+}
+
+void MenuExport::fill(int id) {
+    const std::shared_ptr<Menu> menu = _nodes[id].menu;
+    _isFilling = true;
+    menu->update(*_chain);
+    std::map<Key, int> counts;
+    std::vector<int> children;
+    for (const std::shared_ptr<MenuItem>& item : menu->items()) {
+        const std::shared_ptr<Object> object = item->representedObject();
+        Key key = {id, std::string(item->action()), object.get(), object ? std::string() : titleWithoutCount(item->title()), 0};
+        std::get<4>(key) = counts[key]++;
+        const int child = idOf(std::move(key));
+        const std::shared_ptr<Menu> submenu = item->submenu();
+        const bool isShown = submenu && !isForView(*submenu);
+        _nodes[child] = {item, isShown ? submenu : nullptr, false, {}};
+        _idsOfItems[item.get()] = child;
+        children.push_back(child);
+    }
+    _nodes[id].children = std::move(children);
+    _nodes[id].isFilled = true;
+    observe(menu);
+    _isFilling = false;
+}
+
+void MenuExport::observe(const std::shared_ptr<Menu>& menu) {
+    std::erase_if(_observed, [](const auto& each) { return each.second.expired(); });
+    if (_observed.emplace(menu.get(), menu).second)
+        menu->addObserver(_self);
+}
+
+int MenuExport::idOf(Key key) {
+    const auto known = _ids.find(key);
+    if (known != _ids.end())
+        return known->second;
+    const auto former = _formerIds.find(key);
+    const int id = former == _formerIds.end() ? ++_lastId : former->second;
+    _ids.emplace(std::move(key), id);
+    return id;
+}
+
+DBusMenuLayout MenuExport::layout(int id, int depth) {
+    if (_isStale)
+        rebuild();
+    return presentLayout(id, depth < 0 ? deepestLayout : std::min(depth, deepestLayout));
+}
+
+DBusMenuLayout MenuExport::presentLayout(int id, int levels) const {
+    DBusMenuLayout result = {id, properties(id), {}};
+    const auto found = _nodes.find(id);
+    if (found == _nodes.end() || levels == 0)
+        return result;
+    for (const int child : found->second.children)
+        result.children.append(QVariant::fromValue(presentLayout(child, levels - 1)));
+    return result;
+}
+
+QVariantMap MenuExport::properties(int id) const {
+    QVariantMap result;
+    const auto found = _nodes.find(id);
+    if (found == _nodes.end())
+        return result;
+    const Node& node = found->second;
+    if (node.menu)
+        result.insert(QStringLiteral("children-display"), QStringLiteral("submenu"));
+    if (!node.item)
+        return result;
+    const MenuItem& item = *node.item;
+    if (item.isSeparator()) {
+        result.insert(QStringLiteral("type"), QStringLiteral("separator"));
+        return result;
+    }
+    result.insert(QStringLiteral("label"), label(item.title()));
+    if (!item.isEnabled())
+        result.insert(QStringLiteral("enabled"), false);
+    if (item.state()) {
+        result.insert(QStringLiteral("toggle-type"), QStringLiteral("checkmark"));
+        result.insert(QStringLiteral("toggle-state"), 1);
+    }
+    if (item.image())
+        result.insert(QStringLiteral("icon-data"), iconData(*item.image()));
+    return result;
+}
+
+bool MenuExport::aboutToShow(int id) {
+    if (_isStale) {
+        rebuild();
+        return contains(id);
+    }
+    const auto found = _nodes.find(id);
+    if (found == _nodes.end() || !found->second.menu)
+        return false;
+    if (!found->second.isFilled) {
+        fill(id);
+        ++_revision;
+        return true;
+    }
+    found->second.menu->update(*_chain);
+    return false;
+}
+
+void MenuExport::choose(int id) {
+    const auto found = _nodes.find(id);
+    if (found == _nodes.end() || !found->second.item)
+        return;
+    const std::shared_ptr<MenuItem> item = found->second.item;
+    item->setEnabled(_chain->validate(*item));
+    if (item->isEnabled())
+        _chain->perform(item);
+}
+
+void MenuExport::menuDidChange(Menu&) {
+    if (_isFilling)
+        return;
+    _isStale = true;
+    _isNoticeDue = true;
+    if (!_layoutTimer.isActive())
+        _layoutTimer.start(0);
+}
+
+void MenuExport::menuItemDidChange(Menu&, MenuItem& item) {
+    const auto found = _idsOfItems.find(&item);
+    if (_isFilling || _isStale || found == _idsOfItems.end())
+        return;
+    if (_changed.empty())
+        QMetaObject::invokeMethod(
+            this, [this] { tellProperties(); }, Qt::QueuedConnection);
+    _changed.insert(found->second);
+}
+
+/// A menu that is made anew tells of each item; its reader gets one notice, and a library that is fetched as a whole makes few.
+void MenuExport::tellLayout() {
+    if (!std::exchange(_isNoticeDue, false))
+        return;
+    ++_revision;
+    _layoutTimer.start(changeInterval);
+    emit layoutUpdated(_revision, 0);
+}
+
+void MenuExport::tellProperties() {
+    DBusMenuPropertiesList items;
+    for (const int id : std::exchange(_changed, {})) {
+        DBusMenuProperties item = {id, properties(id)};
+        // What is at its default is not among the properties, but may have been something else before.
+        if (!item.properties.contains(QStringLiteral("enabled")))
+            item.properties.insert(QStringLiteral("enabled"), true);
+        items.append(item);
+    }
+    if (!items.isEmpty())
+        emit propertiesUpdated(items);
+}
+
+} // namespace brindle::desktop

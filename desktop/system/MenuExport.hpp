@@ -1,0 +1,90 @@
+#pragma once
+
+#include "desktop/system/DBusTypes.hpp"
+#include "platform/Menu.hpp"
+#include "platform/ResponderChain.hpp"
+
+#include <QObject>
+#include <QTimer>
+#include <chrono>
+#include <map>
+#include <memory>
+#include <set>
+#include <string>
+#include <tuple>
+#include <unordered_map>
+#include <vector>
+
+namespace brindle::desktop {
+
+/// A menu of the program as panels show it that draw menus themselves (com.canonical.dbusmenu). Every item has a number; one that is there
+/// again after a change keeps its number. Changes are told together, and nothing is made for them until the panel asks. As many menus as
+/// are likely to be looked at are told at once, the others when the panel is about to show them. Thread: main.
+class MenuExport : public QObject, public MenuObserver {
+    Q_OBJECT
+
+public:
+    /// How long a panel is not told again of a change.
+    static constexpr std::chrono::milliseconds changeInterval{250};
+
+    /// Held by a shared pointer, as menus hold their observers weakly.
+    static std::shared_ptr<MenuExport> make(std::shared_ptr<Menu> menu, std::shared_ptr<ResponderChain> chain);
+
+    uint revision() const { return _revision; }
+    /// The item with those below it that are told, as many levels as `depth`; negative: all that the bus can carry. An unknown number gives
+    /// an item with nothing.
+    DBusMenuLayout layout(int id, int depth);
+    /// Empty for an unknown number.
+    QVariantMap properties(int id) const;
+    bool contains(int id) const { return _nodes.contains(id); }
+    /// Makes an item's menu ready to be shown; whether its layout is another now.
+    bool aboutToShow(int id);
+    /// The person chose an item. Nothing for an unknown number.
+    void choose(int id);
+
+    void menuDidChange(Menu& menu) override;
+    void menuItemDidChange(Menu& menu, MenuItem& item) override;
+
+signals:
+    void layoutUpdated(uint revision, int parent);
+    void propertiesUpdated(const brindle::desktop::DBusMenuPropertiesList& items);
+
+private:
+    /// What makes two items the same: their menu, what they do, what they stand for or are called, and which of such they are.
+    using Key = std::tuple<int, std::string, const Object*, std::string, int>;
+    using Ids = std::map<Key, int>;
+
+    struct Node {
+        std::shared_ptr<MenuItem> item; ///< null for the root
+        std::shared_ptr<Menu> menu;     ///< null for an item without one to be shown
+        bool isFilled = false;
+        std::vector<int> children;
+    };
+
+    MenuExport(std::shared_ptr<Menu> menu, std::shared_ptr<ResponderChain> chain);
+    void rebuild();
+    void tellLayout();
+    void tellProperties();
+    DBusMenuLayout presentLayout(int id, int levels) const;
+    void fill(int id);
+    void observe(const std::shared_ptr<Menu>& menu);
+    int idOf(Key key);
+
+    const std::shared_ptr<Menu> _menu;
+    const std::shared_ptr<ResponderChain> _chain;
+    std::weak_ptr<MenuExport> _self;
+    std::unordered_map<int, Node> _nodes;
+    std::unordered_map<const MenuItem*, int> _idsOfItems;
+    std::map<const Menu*, std::weak_ptr<Menu>> _observed;
+    Ids _ids;
+    Ids _formerIds; ///< of the rebuild before
+    int _lastId = 0;
+    uint _revision = 1;
+    bool _isStale = true;      ///< the menu changed since the last rebuild
+    bool _isNoticeDue = false; ///< the panel is to be told of that
+    bool _isFilling = false;
+    std::set<int> _changed; ///< whose properties are to be told
+    QTimer _layoutTimer;    ///< runs while a panel is not to be told of changes, and tells of those that came meanwhile
+};
+
+} // namespace brindle::desktop

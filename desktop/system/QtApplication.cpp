@@ -1,0 +1,97 @@
+#include "desktop/system/QtApplication.hpp"
+
+#include "desktop/toolkit/Images.hpp"
+#include "desktop/toolkit/Text.hpp"
+#include "foundation/LocalizedStrings.hpp"
+
+#include <QApplication>
+#include <QDialogButtonBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+#include <algorithm>
+
+namespace brindle::desktop {
+
+namespace {
+
+constexpr double iconSide = 64;
+
+bool isWindow(const QWidget* widget) {
+    const Qt::WindowType type = widget->windowType();
+    return widget->isVisible() && (type == Qt::Window || type == Qt::Dialog || type == Qt::Tool);
+}
+
+QLabel* label(const QString& text, qreal scale, bool bold) {
+    auto* const made = new QLabel(text);
+    made->setTextFormat(Qt::PlainText);
+    made->setAlignment(Qt::AlignHCenter);
+    made->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    QFont font = made->font();
+    font.setPointSizeF(font.pointSizeF() * scale);
+    font.setBold(bold);
+    made->setFont(font);
+    return made;
+}
+
+QDialog* makeAboutPanel() {
+    auto* const panel = new QDialog;
+    panel->setObjectName(QStringLiteral("about"));
+    panel->setWindowTitle(toQString(localized("aboutMenuTitle")));
+    auto* const icon = new QLabel;
+    icon->setPixmap(images::pixmap(Image::named("brindle"), {iconSide, iconSide}, panel->devicePixelRatioF()));
+    icon->setAlignment(Qt::AlignHCenter);
+    auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Close);
+    buttons->setCenterButtons(true);
+    QPushButton* const close = buttons->button(QDialogButtonBox::Close);
+    close->setText(toQString(localized("Close")));
+    close->setIcon(QIcon());
+    QObject::connect(buttons, &QDialogButtonBox::rejected, panel, &QDialog::close);
+    auto* const layout = new QVBoxLayout(panel);
+    layout->setSizeConstraint(QLayout::SetFixedSize);
+    layout->setContentsMargins(32, 24, 32, 16);
+    layout->addWidget(icon);
+    layout->addWidget(label(QStringLiteral("Brindle"), 1.5, true));
+    layout->addWidget(label(toQString(localized("Version")) + QStringLiteral(" " BRINDLE_VERSION), 1.0, false));
+    layout->addWidget(label(toQString(localized("A feed reader in the status area.")), 1.0, false));
+    layout->addSpacing(8);
+    layout->addWidget(buttons);
+    return panel;
+}
+
+} // namespace
+
+bool QtApplication::hasVisibleWindow() {
+    const QWidgetList widgets = QApplication::topLevelWidgets();
+    return std::any_of(widgets.begin(), widgets.end(), isWindow);
+}
+
+void QtApplication::activate() {
+    const QWidget* const active = QApplication::activeWindow();
+    for (QWidget* const widget : QApplication::topLevelWidgets()) {
+        if (!isWindow(widget))
+            continue;
+        widget->raise();
+        if (!active || active == widget)
+            widget->activateWindow();
+    }
+}
+
+void QtApplication::terminate() {
+    // Not `quit`, which any window could refuse.
+    QCoreApplication::exit(0);
+}
+
+void QtApplication::orderFrontStandardAboutPanel() {
+    if (!_aboutPanel)
+        _aboutPanel = makeAboutPanel();
+    _aboutPanel->show();
+    _aboutPanel->raise();
+    _aboutPanel->activateWindow();
+}
+
+bool QtApplication::isShiftKeyDown() const {
+    return QGuiApplication::keyboardModifiers().testFlag(Qt::ShiftModifier);
+}
+
+} // namespace brindle::desktop

@@ -1,0 +1,56 @@
+#include "desktop/system/SingleInstance.hpp"
+
+#include "desktop/system/SingleInstanceAdaptor.hpp"
+
+#include <QDBusConnectionInterface>
+#include <QDBusMessage>
+#include <utility>
+
+namespace brindle::desktop {
+
+namespace {
+
+const QString interface = QStringLiteral("org.freedesktop.Application");
+constexpr int answerLimit = 10'000; // milliseconds
+
+} // namespace
+
+SingleInstance::SingleInstance(QDBusConnection bus, QString name) : _bus(std::move(bus)), _name(std::move(name)) {
+    new SingleInstanceAdaptor(*this);
+}
+
+SingleInstance::~SingleInstance() {
+    if (!_isFirst || !_bus.isConnected())
+        return;
+    _bus.unregisterObject(path());
+    _bus.unregisterService(_name);
+}
+
+/// The name's own, as the specification has it.
+QString SingleInstance::path() const {
+    return QLatin1Char('/') + QString(_name).replace(QLatin1Char('.'), QLatin1Char('/')).replace(QLatin1Char('-'), QLatin1Char('_'));
+}
+
+bool SingleInstance::acquire() {
+    if (!_bus.isConnected())
+        return true;
+    // Before the name, so that nobody who finds the name finds nothing there.
+    _bus.registerObject(path(), this, QDBusConnection::ExportAdaptors);
+    const auto answer = _bus.interface()->registerService(
+        _name, QDBusConnectionInterface::DontQueueService, QDBusConnectionInterface::DontAllowReplacement);
+    _isFirst = !answer.isValid() || answer.value() == QDBusConnectionInterface::ServiceRegistered;
+    if (!_isFirst)
+        _bus.unregisterObject(path());
+    return _isFirst;
+}
+
+bool SingleInstance::handOver(const QStringList& uris) const {
+    QDBusMessage call =
+        QDBusMessage::createMethodCall(_name, path(), interface, uris.isEmpty() ? QStringLiteral("Activate") : QStringLiteral("Open"));
+    if (!uris.isEmpty())
+        call << uris;
+    call << QVariantMap();
+    return _bus.call(call, QDBus::Block, answerLimit).type() == QDBusMessage::ReplyMessage;
+}
+
+} // namespace brindle::desktop

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QDBusConnection>
+#include <QObject>
+#include <QStringList>
+
+namespace brindle::desktop {
+
+/// Sees to it that the program runs once in a session: the first start takes a name on the session bus and answers there
+/// (org.freedesktop.Application, Desktop Entry Specification, "D-Bus Activation"), a later one hands over what it was asked to open.
+/// Without a bus every start is the first. Thread: main.
+class SingleInstance : public QObject {
+    Q_OBJECT
+
+public:
+    /// The program's own name, and where it answers.
+    static constexpr const char* standardName = "org.brindle.Brindle";
+
+    SingleInstance(QDBusConnection bus, QString name);
+    ~SingleInstance() override;
+
+    /// Takes the name; false where another process has it.
+    bool acquire();
+    /// Has the process that took the name open `uris`, or show itself where there are none; false where it doesn't answer.
+    bool handOver(const QStringList& uris) const;
+
+signals:
+    /// The program was started again, or the desktop asks it to show itself.
+    void activated();
+    /// Addresses and files, as URIs.
+    void opened(const QStringList& uris);
+    /// One of the actions of the program's desktop entry.
+    void actionActivated(const QString& name);
+
+private:
+    QString path() const;
+
+    QDBusConnection _bus;
+    const QString _name;
+    bool _isFirst = false;
+};
+
+} // namespace brindle::desktop

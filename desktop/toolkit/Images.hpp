@@ -1,0 +1,34 @@
+#pragma once
+
+#include "platform/Image.hpp"
+
+#include <QColor>
+#include <QIcon>
+#include <QPixmap>
+#include <optional>
+
+namespace brindle::desktop {
+
+/// How the program's images look. Named images are drawings that come with the program; those of one colour take the colour of the letters
+/// beside them, so that they are legible on light and on dark. An unknown name, and bytes that are no image, look like nothing.
+/// Thread: main, after the application object was made.
+namespace images {
+
+/// Drawn for each size, scale and palette when it is shown.
+QIcon icon(const Image& image);
+
+/// At the image's own size in points, at `fallback` where it has none.
+QPixmap pixmap(const Image& image, Image::Size fallback, qreal devicePixelRatio);
+
+/// `pixels` wide and high, a point being `scale` pixels; images of one colour in `color`.
+QImage drawing(const Image& image, QSize pixels, qreal scale, const QColor& color);
+
+/// The bytes of an image file of any format that the toolkit knows, none larger than `maximumBytes`; the picture that suits `pixels` best
+/// where the file has several, and in any case not much larger than `maximumSide`. Absent for anything else.
+std::optional<QImage> decoded(const std::string& bytes, QSize pixels);
+
+inline constexpr std::size_t maximumBytes = 16 << 20;
+inline constexpr int maximumSide = 1024; ///< pixels
+
+} // namespace images
+} // namespace brindle::desktop

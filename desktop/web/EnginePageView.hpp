@@ -1,0 +1,48 @@
+#pragma once
+
+#include "desktop/toolkit/WebPluginInterface.hpp"
+#include "desktop/web/EnginePage.hpp"
+#include "desktop/web/EngineView.hpp"
+
+#include <QObject>
+#include <QPointer>
+#include <QTimer>
+
+namespace brindle::desktop {
+
+/// A page view on Qt WebEngine. Thread: main.
+class EnginePageView : public QObject, public WebPageView {
+    Q_OBJECT
+
+public:
+    explicit EnginePageView(QWidget* parent);
+    ~EnginePageView() override;
+
+    QWidget* widget() const override { return _view; }
+    void setEvents(Events events) override;
+    void setHtml(const QByteArray& html) override;
+    void load(const QUrl& url, double seconds) override;
+    void reload() override;
+    bool canGoBack() const override;
+    bool canGoForward() const override;
+    void goBack() override { _page->triggerAction(QWebEnginePage::Back); }
+    void goForward() override { _page->triggerAction(QWebEnginePage::Forward); }
+    double progress() const override { return _progress; }
+    QString title() const override;
+    void scrollPage(bool down, std::function<void(bool wasAtEnd)> done) override;
+
+private:
+    void connectPage();
+    void didStart();
+    void didFinish(bool isLoaded);
+    void setProgress(double progress);
+
+    const QPointer<EngineView> _view;
+    const QPointer<EnginePage> _page;
+    Events _events;
+    QUrl _ownPage; ///< the address of a page that the program made; empty while none is shown
+    QTimer _timeout;
+    double _progress = 0;
+};
+
+} // namespace brindle::desktop

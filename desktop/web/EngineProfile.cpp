@@ -1,0 +1,53 @@
+#include "desktop/web/EngineProfile.hpp"
+
+#include "desktop/web/RequestInterceptor.hpp"
+
+#include <QCoreApplication>
+#include <QWebEngineDownloadRequest>
+#include <QWebEngineSettings>
+#include <array>
+#include <utility>
+
+namespace brindle::desktop {
+
+namespace {
+
+constexpr std::array<std::pair<QWebEngineSettings::WebAttribute, bool>, 16> attributes = {{
+    {QWebEngineSettings::JavascriptCanOpenWindows, false},
+    {QWebEngineSettings::JavascriptCanAccessClipboard, false},
+    {QWebEngineSettings::JavascriptCanPaste, false},
+    {QWebEngineSettings::LocalContentCanAccessFileUrls, false},
+    {QWebEngineSettings::LocalContentCanAccessRemoteUrls, false},
+    {QWebEngineSettings::AllowRunningInsecureContent, false},
+    {QWebEngineSettings::AllowGeolocationOnInsecureOrigins, false},
+    {QWebEngineSettings::AllowWindowActivationFromJavaScript, false},
+    {QWebEngineSettings::PluginsEnabled, false},
+    {QWebEngineSettings::PdfViewerEnabled, false},
+    {QWebEngineSettings::ScreenCaptureEnabled, false},
+    {QWebEngineSettings::HyperlinkAuditingEnabled, false},
+    {QWebEngineSettings::DnsPrefetchEnabled, false},
+    {QWebEngineSettings::WebRTCPublicInterfacesOnly, true},
+    {QWebEngineSettings::PlaybackRequiresUserGesture, true},
+    {QWebEngineSettings::NavigateOnDropEnabled, false},
+}};
+
+} // namespace
+
+EngineProfile& EngineProfile::shared() {
+    static auto* const profile = new EngineProfile(QCoreApplication::instance());
+    return *profile;
+}
+
+EngineProfile::EngineProfile(QObject* parent) : QWebEngineProfile(parent), _pages(new PageScheme(this)) {
+    setHttpCacheType(MemoryHttpCache);
+    setPersistentCookiesPolicy(NoPersistentCookies);
+    setSpellCheckEnabled(false);
+    setUrlRequestInterceptor(new RequestInterceptor(this));
+    installUrlSchemeHandler(PageScheme::name, _pages);
+    for (const auto& [attribute, isOn] : attributes)
+        settings()->setAttribute(attribute, isOn);
+    settings()->setUnknownUrlSchemePolicy(QWebEngineSettings::DisallowUnknownUrlSchemes);
+    connect(this, &QWebEngineProfile::downloadRequested, this, [](QWebEngineDownloadRequest* download) { download->cancel(); });
+}
+
+} // namespace brindle::desktop

@@ -1,0 +1,68 @@
+#include "desktop/web/WebPlugin.hpp"
+
+#include "desktop/web/EnginePageView.hpp"
+#include "desktop/web/PageScheme.hpp"
+
+#include <QGuiApplication>
+#include <QLoggingCategory>
+#include <QOpenGLContext>
+#include <QPalette>
+
+QT_BEGIN_NAMESPACE
+Q_GUI_EXPORT void qt_gl_set_global_share_context(QOpenGLContext* context);
+Q_GUI_EXPORT QOpenGLContext* qt_gl_global_share_context();
+QT_END_NAMESPACE
+
+namespace brindle::desktop {
+
+namespace {
+
+/// For the engine's start.
+void addSwitch(const QByteArray& text) {
+    qputenv(webEngineSwitches, (qgetenv(webEngineSwitches) + ' ' + text).trimmed());
+}
+
+/// The engine doesn't ask the desktop by itself, and takes what it is told at its start alone.
+void followColorScheme() {
+    const QPalette palette = QGuiApplication::palette();
+    if (palette.color(QPalette::Window).lightness() < palette.color(QPalette::WindowText).lightness())
+        addSwitch("--force-dark-mode");
+}
+
+/// The engine needs one graphics context that all others share with. The application object would make it at the start of the program, and
+/// with it load the graphics drivers, which are larger than the program.
+void shareGraphics() {
+    if (qt_gl_global_share_context())
+        return;
+    QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
+    auto* const context = new QOpenGLContext;
+    if (!context->create())
+        return delete context;
+    qt_gl_set_global_share_context(context);
+    qAddPostRoutine([] {
+        delete qt_gl_global_share_context();
+        qt_gl_set_global_share_context(nullptr);
+    });
+}
+
+/// Private Network Access, a draft of the Web Incubator CG: also judges by the address that a connection has in the end, whatever names and
+/// redirects led to it.
+void blockPrivateNetwork() {
+    addSwitch("--enable-features=BlockInsecurePrivateNetworkRequestsFromUnknown,BlockInsecurePrivateNetworkRequestsForNavigations");
+}
+
+} // namespace
+
+WebPlugin::WebPlugin() {
+    QLoggingCategory::setFilterRules(QStringLiteral("qt.webenginecontext=false"));
+    shareGraphics();
+    followColorScheme();
+    blockPrivateNetwork();
+    PageScheme::registerScheme();
+}
+
+WebPageView* WebPlugin::makePageView(QWidget* parent) {
+    return new EnginePageView(parent);
+}
+
+} // namespace brindle::desktop

@@ -1,0 +1,208 @@
+#include "desktop/windows/ArticleWebView.hpp"
+
+#include "desktop/toolkit/Text.hpp"
+#include "foundation/LocalizedStrings.hpp"
+
+#include <QApplication>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QTextBrowser>
+#include <utility>
+
+namespace brindle::desktop {
+
+namespace {
+
+constexpr int margin = 8; // points
+
+/// Shows a text, and fetches nothing that it names.
+class TextBrowser : public QTextBrowser {
+public:
+    using QTextBrowser::QTextBrowser;
+
+protected:
+    QVariant loadResource(int, const QUrl&) override { return QByteArray(""); }
+};
+
+} // namespace
+
+ArticleWebView::ArticleWebView(QWidget* place, std::shared_ptr<WebPluginLoader> loader)
+    : _holder(new QWidget(place)), _loader(std::move(loader)) {
+    auto* const column = new QVBoxLayout(_holder);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    if (QLayout* const layout = place->layout())
+        layout->addWidget(_holder);
+}
+
+ArticleWebView::~ArticleWebView() {
+    removeFromSuperview();
+}
+
+void ArticleWebView::removeFromSuperview() {
+    // Who reads with the keyboard goes on reading in the view that comes next; until then the place has the keyboard.
+    const QWidget* const focused = QApplication::focusWidget();
+    if (_holder && focused && _holder->isAncestorOf(focused))
+        _holder->parentWidget()->setFocus();
+    _page.reset();
+    if (!_holder)
+        return;
+    // It may be its own event that this answers.
+    _holder->hide();
+    _holder->deleteLater();
+}
+
+void ArticleWebView::setHidden(bool isHidden) {
+    if (_holder)
+        _holder->setHidden(isHidden);
+}
+
+void ArticleWebView::add(QWidget* content) {
+    _holder->layout()->addWidget(content);
+    content->show();
+    if (_holder->parentWidget()->hasFocus())
+        content->setFocus();
+}
+
+bool ArticleWebView::makePage() {
+    if (_page || !_holder)
+        return _page != nullptr;
+    if (WebPluginInterface* const plugin = _loader->plugin()) {
+        _page.reset(plugin->makePageView(_holder));
+        _page->setEvents(events());
+        add(_page->widget());
+    }
+    return _page != nullptr;
+}
+
+WebPageView::Events ArticleWebView::events() {
+    const auto tell = [this](void (WebViewDelegate::*notice)()) {
+        return [this, notice] {
+            if (const auto delegate = _delegate.lock())
+                (delegate.get()->*notice)();
+        };
+    };
+    WebPageView::Events events;
+    events.allowsNavigation = [this](WebPageView::Navigation type, const QUrl& url) {
+        return allows(static_cast<NavigationAction::Type>(type), url);
+    };
+    events.didStart = [this, told = tell(&WebViewDelegate::didStartProvisionalNavigation)] {
+        showReload(false);
+        told();
+    };
+    events.didFinish = tell(&WebViewDelegate::didFinishNavigation);
+    events.progressDidChange = tell(&WebViewDelegate::estimatedProgressDidChange);
+    events.titleDidChange = tell(&WebViewDelegate::titleDidChange);
+    events.processDidTerminate = [this] { showReload(true); };
+    return events;
+}
+
+bool ArticleWebView::allows(NavigationAction::Type type, const QUrl& url) const {
+    const auto delegate = _delegate.lock();
+    const std::string address = url.toString(QUrl::FullyEncoded).toStdString();
+    return delegate && delegate->decidePolicy({type, URL::make(address)}) == NavigationPolicy::allow;
+}
+
+/// Made when it is first needed, in place of the page.
+QTextBrowser& ArticleWebView::text() {
+    if (!_text) {
+        _text = new TextBrowser(_holder);
+        _text->setOpenLinks(false);
+        _text->setFrameShape(QFrame::NoFrame);
+        _text->setAccessibleName(toQString(localized("Article")));
+        QObject::connect(_text, &QTextBrowser::anchorClicked, _text, [this](const QUrl& url) {
+            if (url.scheme() == QLatin1String("http") || url.scheme() == QLatin1String("https"))
+                allows(NavigationAction::Type::linkActivated, url);
+        });
+        add(_text);
+    }
+    return *_text;
+}
+
+void ArticleWebView::loadHTMLString(const std::string& html, const std::optional<URL>&) {
+    const bool hasBegun = _page || _text;
+    // An empty pane needs no engine.
+    if (!_holder || (html.empty() && !hasBegun))
+        return;
+    if (makePage())
+        return _page->setHtml(QByteArray(html.data(), static_cast<qsizetype>(html.size())));
+    showText(toQString(html));
+}
+
+void ArticleWebView::load(const WebRequest& request) {
+    if (!_holder)
+        return;
+    const QString address = toQString(request.url.absoluteString());
+    if (makePage())
+        return _page->load(QUrl(address, QUrl::StrictMode), request.timeoutInterval);
+    const QString shown = address.toHtmlEscaped();
+    showText(QStringLiteral("<p>%1</p><p><a href=\"%2\">%2</a></p>")
+                 .arg(toQString(localized("The original page can't be shown here.")).toHtmlEscaped(), shown));
+}
+
+/// It is there at once.
+void ArticleWebView::showText(const QString& html) {
+    text().setHtml(html);
+    if (const auto delegate = _delegate.lock()) {
+        delegate->estimatedProgressDidChange();
+        delegate->didFinishNavigation();
+    }
+}
+
+void ArticleWebView::goBack() {
+    if (_page)
+        _page->goBack();
+}
+
+void ArticleWebView::goForward() {
+    if (_page)
+        _page->goForward();
+}
+
+double ArticleWebView::estimatedProgress() const {
+    if (_text)
+        return 1;
+    return _page ? _page->progress() : 0;
+}
+
+std::string ArticleWebView::title() const {
+    return _page ? fromQString(_page->title()) : std::string();
+}
+
+void ArticleWebView::scrollPage(bool down, std::function<void(bool wasAtEnd)> done) {
+    if (_page)
+        return _page->scrollPage(down, std::move(done));
+    QScrollBar* const bar = _text ? _text->verticalScrollBar() : nullptr;
+    const int before = bar ? bar->value() : 0;
+    if (bar)
+        bar->setValue(before + (down ? bar->pageStep() : -bar->pageStep()));
+    if (done)
+        done(!bar || bar->value() == before);
+}
+
+void ArticleWebView::showReload(bool isShown) {
+    if (!_holder || (!isShown && !_reload))
+        return;
+    if (!_reload) {
+        _reload = new QWidget(_holder);
+        auto* const row = new QHBoxLayout(_reload);
+        row->setContentsMargins(margin, margin, margin, margin);
+        auto* const message = new QLabel(toQString(localized("The page has stopped working.")), _reload);
+        auto* const button = new QPushButton(toQString(localized("Reload")), _reload);
+        row->addWidget(message, 1);
+        row->addWidget(button);
+        static_cast<QVBoxLayout*>(_holder->layout())->insertWidget(0, _reload);
+        QObject::connect(button, &QPushButton::clicked, _reload, [this] {
+            showReload(false);
+            if (_page)
+                _page->reload();
+        });
+    }
+    _reload->setVisible(isShown);
+    if (_page && _page->widget())
+        _page->widget()->setVisible(!isShown);
+}
+
+} // namespace brindle::desktop

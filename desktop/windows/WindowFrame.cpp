@@ -1,0 +1,68 @@
+#include "desktop/windows/WindowFrame.hpp"
+
+#include "desktop/toolkit/Text.hpp"
+
+#include <QGuiApplication>
+#include <QScreen>
+#include <QStringList>
+#include <QWidget>
+#include <algorithm>
+#include <array>
+#include <utility>
+
+namespace brindle::desktop {
+
+namespace {
+
+constexpr qsizetype numberCount = 4;
+constexpr int largestSide = 32'767; // what X11 has for a window's side
+constexpr int leastVisible = 40;    // so much of a frame, across and down, is enough to take hold of it
+const QLatin1String maximizedMark("maximized");
+
+bool isOnScreen(const QRect& frame) {
+    const auto screens = QGuiApplication::screens();
+    return std::any_of(screens.begin(), screens.end(), [&](const QScreen* screen) {
+        const QRect seen = screen->availableGeometry().intersected(frame);
+        return seen.width() >= leastVisible && seen.height() >= leastVisible;
+    });
+}
+
+std::optional<QRect> frameOf(const QStringList& words) {
+    if (words.size() < numberCount)
+        return std::nullopt;
+    std::array<int, numberCount> numbers{};
+    for (qsizetype i = 0; i < numberCount; ++i) {
+        bool isNumber = false;
+        numbers[static_cast<std::size_t>(i)] = words[i].toInt(&isNumber);
+        if (!isNumber || std::abs(words[i].toInt()) > largestSide)
+            return std::nullopt;
+    }
+    const QRect frame(numbers[0], numbers[1], numbers[2], numbers[3]);
+    return frame.isEmpty() || !isOnScreen(frame) ? std::nullopt : std::optional(frame);
+}
+
+} // namespace
+
+WindowFrame::WindowFrame(std::shared_ptr<UserDefaults> defaults, std::string name)
+    : _defaults(std::move(defaults)), _key("NSWindow Frame " + std::move(name)) {}
+
+void WindowFrame::save(const QWidget& window) const {
+    const QRect frame = window.isMaximized() ? window.normalGeometry() : window.geometry();
+    QString text = QStringLiteral("%1 %2 %3 %4").arg(frame.x()).arg(frame.y()).arg(frame.width()).arg(frame.height());
+    if (window.isMaximized())
+        text += QLatin1Char(' ') + maximizedMark;
+    if (const std::string value = fromQString(text); _defaults->stringForKey(_key) != value)
+        _defaults->set(_key, value);
+}
+
+bool WindowFrame::restore(QWidget& window) const {
+    const QStringList words = toQString(_defaults->stringForKey(_key).value_or("")).split(QLatin1Char(' '));
+    const auto frame = frameOf(words);
+    if (!frame)
+        return false;
+    window.setGeometry(*frame);
+    window.setWindowState(words.mid(numberCount).contains(maximizedMark) ? Qt::WindowMaximized : Qt::WindowNoState);
+    return true;
+}
+
+} // namespace brindle::desktop

@@ -1,0 +1,61 @@
+#pragma once
+
+#include "desktop/windows/FeedsBrowserWindow.hpp"
+#include "tests/browser/BrowserFixture.hpp"
+#include "tests/desktop/EventLoop.hpp"
+#include "tests/support/Folders.hpp"
+
+#include <QLineEdit>
+#include <QTest>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace brindle::desktop {
+
+/// The browser's window over a library in memory, without a web view: articles are shown as text.
+class BrowserWindowTest : public BrowserTest {
+protected:
+    BrowserWindowTest() { environment.resources = testsupport::sourceFolder() + "/resources"; }
+
+    /// Makes it of what the library and the preferences are by then, and shows it with the keyboard.
+    void show() {
+        made = makeFeedsBrowserWindow(windows, std::make_shared<WebPluginLoader>(folder / "none.so"), statusMenu, environment);
+        made.controller->showWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&made.window->widget()));
+    }
+
+    OutlineTree& feeds() const { return made.window->feedsView()->widget(); }
+    QTableView& articles() const { return made.window->articlesView()->widget(); }
+    QLineEdit& searchField() const { return made.window->toolbar().searchField(); }
+    FeedsBrowserArticleViewController& article() const { return made.controller->splitViewController().articleViewController(); }
+
+    void setCollectionsOff() {
+        for (const std::string_view key : {preference::showTodayCollectionInFeedsBrowser, preference::showUnreadCollectionInFeedsBrowser,
+                 preference::showSavedArticlesCollectionInFeedsBrowser})
+            set(key, false);
+    }
+    void select(const std::shared_ptr<Feed>& feed) const { made.controller->splitViewController().feedsViewController().reveal(feed); }
+    /// Of the article that is shown; empty for none.
+    std::string shownTitle() const { return article().article() ? article().article()->entry->title : ""; }
+    std::vector<std::string> listedTitles() const {
+        return titles(made.controller->splitViewController().articlesViewController().feedItemArticles());
+    }
+    /// The names of the rows of the outline that are shown, in order.
+    std::vector<std::string> feedRows() const {
+        std::vector<std::string> rows;
+        for (QModelIndex row = feeds().model()->index(0, 0); row.isValid(); row = feeds().indexBelow(row))
+            rows.push_back(row.data().toString().toStdString());
+        return rows;
+    }
+    std::string selectedFeedRow() const {
+        const auto selected = feeds().selectionModel()->selectedRows();
+        return selected.isEmpty() ? "" : selected.front().data().toString().toStdString();
+    }
+
+    WindowEnvironment windows = {defaults, {}};
+    std::shared_ptr<StatusMenu> statusMenu = std::make_shared<StatusMenu>();
+    FeedsBrowserWindow made;
+};
+
+} // namespace brindle::desktop

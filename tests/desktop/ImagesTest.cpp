@@ -1,0 +1,82 @@
+#include "desktop/toolkit/Images.hpp"
+
+#include <QBuffer>
+#include <gtest/gtest.h>
+
+namespace brindle::desktop {
+
+namespace {
+
+std::string png(int side, const QColor& color) {
+    QImage image(side, side, QImage::Format_ARGB32);
+    image.fill(color);
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    image.save(&buffer, "PNG");
+    return bytes.toStdString();
+}
+
+bool isBlank(const QImage& image) {
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            if (qAlpha(image.pixel(x, y)) != 0)
+                return false;
+        }
+    }
+    return true;
+}
+
+QImage drawn(const Image& image, const QColor& color = Qt::black) {
+    return images::drawing(image, QSize(32, 32), 2, color);
+}
+
+} // namespace
+
+TEST(ImagesTest, DrawEveryNamedImageOfTheProgram) {
+    for (const char* const name :
+        {"menu_feed", "menu_feed_alt", "menu_legacy", "menu_legacy_alt", "menu_feed_alternate", "menu_feed_alternate_alt", "feed_audeo",
+            "feed_video", "NSImageNameFolder", "NSImageNameFolderSmart", "NSImageNameStatusUnavailable", "NSImageNameCaution", "brindle"})
+        EXPECT_FALSE(isBlank(drawn(Image::named(name)))) << name;
+    EXPECT_FALSE(isBlank(drawn(Image::defaultFeedIcon())));
+}
+
+TEST(ImagesTest, DrawNothingForAnUnknownName) {
+    EXPECT_TRUE(isBlank(drawn(Image::named("no such image"))));
+    EXPECT_TRUE(isBlank(drawn(Image::named("../menu_feed"))));
+}
+
+TEST(ImagesTest, DrawOneColouredImagesInTheLettersColour) {
+    const QImage white = drawn(Image::named("menu_feed"), Qt::white);
+    const QImage black = drawn(Image::named("menu_feed"), Qt::black);
+    const QPoint dot(8, 24);
+    EXPECT_EQ(white.pixelColor(dot), QColor(Qt::white));
+    EXPECT_EQ(black.pixelColor(dot), QColor(Qt::black));
+}
+
+TEST(ImagesTest, DrawBytesAsLargeAsAskedFor) {
+    const QImage image = drawn(Image::withData(png(7, Qt::blue)));
+    EXPECT_EQ(image.size(), QSize(32, 32));
+    EXPECT_EQ(image.pixelColor(16, 16), QColor(Qt::blue));
+}
+
+TEST(ImagesTest, DrawNothingForBytesThatAreNoImage) {
+    EXPECT_TRUE(isBlank(drawn(Image::withData("no image"))));
+    EXPECT_TRUE(isBlank(drawn(Image::withData(""))));
+    EXPECT_FALSE(images::decoded("GIF89a", QSize(16, 16)));
+}
+
+TEST(ImagesTest, DrawARedSlashFromTheLowerLeftToTheUpperRight) {
+    const QImage image = drawn(Image::named("no such image").slashed());
+    EXPECT_EQ(image.pixelColor(16, 15), QColor(255, 0, 0));
+    EXPECT_EQ(image.pixelColor(1, 30), QColor(255, 0, 0));
+    EXPECT_EQ(qAlpha(image.pixel(1, 1)), 0);
+}
+
+TEST(ImagesTest, HaveAPixmapOfTheImagesOwnSize) {
+    const QPixmap own = images::pixmap(Image::defaultFeedIcon().resized({16, 16}), {48, 48}, 2);
+    EXPECT_EQ(own.size(), QSize(32, 32));
+    EXPECT_EQ(images::pixmap(Image::defaultFeedIcon(), {48, 48}, 1).size(), QSize(48, 48));
+}
+
+} // namespace brindle::desktop

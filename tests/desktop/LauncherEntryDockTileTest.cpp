@@ -1,0 +1,47 @@
+#include "desktop/system/LauncherEntryDockTile.hpp"
+
+#include "tests/desktop/EventLoop.hpp"
+#include "tests/desktop/PrivateBus.hpp"
+#include "tests/desktop/SignalCatcher.hpp"
+
+#include <QDBusArgument>
+#include <gtest/gtest.h>
+
+namespace brindle::desktop {
+
+namespace {
+
+class LauncherEntryDockTileTest : public testing::Test {
+protected:
+    LauncherEntryDockTileTest()
+        : _tile(_bus.connect()), _dock(_bus.connect(), QStringLiteral("com.canonical.Unity.LauncherEntry"), QStringLiteral("Update")) {}
+
+    /// What a dock is told of a label.
+    QVariantMap told(const std::optional<std::string>& label) {
+        _dock.messages.clear();
+        _tile.setBadgeLabel(label);
+        if (!runEventLoop([this] { return !_dock.messages.isEmpty(); }))
+            return {};
+        EXPECT_EQ(_dock.messages.constFirst().arguments().at(0), QStringLiteral("application://org.brindle.Brindle.desktop"));
+        return qdbus_cast<QVariantMap>(_dock.messages.constFirst().arguments().at(1));
+    }
+
+    PrivateBus _bus;
+    LauncherEntryDockTile _tile;
+    SignalCatcher _dock;
+};
+
+} // namespace
+
+TEST_F(LauncherEntryDockTileTest, TellsTheCount) {
+    const QVariantMap properties = told("12");
+    EXPECT_EQ(properties.value(QStringLiteral("count")).toInt(), 12);
+    EXPECT_TRUE(properties.value(QStringLiteral("count-visible")).toBool());
+}
+
+TEST_F(LauncherEntryDockTileTest, TakesTheCountAwayForNoLabelAndForAnEmptyOne) {
+    EXPECT_FALSE(told(std::nullopt).value(QStringLiteral("count-visible"), true).toBool());
+    EXPECT_FALSE(told("").value(QStringLiteral("count-visible"), true).toBool());
+}
+
+} // namespace brindle::desktop

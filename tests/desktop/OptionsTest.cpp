@@ -1,0 +1,71 @@
+#include "desktop/Options.hpp"
+
+#include <gmock/gmock.h>
+
+namespace brindle::desktop {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+
+TEST(OptionsTest, AreEmptyWithoutWords) {
+    const auto options = Options::parse({}, "/home/ada");
+    ASSERT_TRUE(options);
+    EXPECT_FALSE(options->help || options->version || options->background || options->supportDirectory);
+    EXPECT_THAT(options->uris(), IsEmpty());
+}
+
+TEST(OptionsTest, KnowTheirNames) {
+    const auto options = Options::parse({"--help", "--version", "--background"}, "/home/ada");
+    ASSERT_TRUE(options);
+    EXPECT_TRUE(options->help && options->version && options->background);
+}
+
+TEST(OptionsTest, TakeASupportFolderInBothForms) {
+    EXPECT_EQ(Options::parse({"--support-dir", "feeds"}, "/home/ada")->supportDirectory, "/home/ada/feeds");
+    EXPECT_EQ(Options::parse({"--support-dir=/tmp/feeds"}, "/home/ada")->supportDirectory, "/tmp/feeds");
+}
+
+TEST(OptionsTest, RefuseASupportFolderWithoutAName) {
+    EXPECT_EQ(Options::parse({"--support-dir"}, "/").error(), "--support-dir needs a folder");
+    EXPECT_EQ(Options::parse({"--support-dir="}, "/").error(), "--support-dir needs a folder");
+}
+
+TEST(OptionsTest, RefuseAnUnknownOption) {
+    EXPECT_EQ(Options::parse({"--loud"}, "/").error(), "unknown option \"--loud\"");
+}
+
+TEST(OptionsTest, TakeAddressesOfThreeSchemesAsTheyAre) {
+    const auto options = Options::parse({"feed://a.example/x", "http://b.example/", "HTTPS://c.example"}, "/");
+    ASSERT_TRUE(options);
+    EXPECT_THAT(options->addresses, ElementsAre("feed://a.example/x", "http://b.example/", "HTTPS://c.example"));
+}
+
+TEST(OptionsTest, TakeOPMLFilesByPathAndByURI) {
+    const auto options = Options::parse({"mine.opml", "/srv/Theirs.OPML", "file:///srv/with%20blank.opml"}, "/home/ada");
+    ASSERT_TRUE(options);
+    EXPECT_THAT(options->files, ElementsAre("/home/ada/mine.opml", "/srv/Theirs.OPML", "/srv/with blank.opml"));
+}
+
+TEST(OptionsTest, RefuseAnyOtherWord) {
+    EXPECT_THAT(Options::parse({"feeds.txt"}, "/").error(), HasSubstr("feeds.txt"));
+    EXPECT_FALSE(Options::parse({"file:///etc/passwd"}, "/"));
+    EXPECT_FALSE(Options::parse({"ftp://a.example/x.opml.gz"}, "/"));
+    EXPECT_FALSE(Options::parse({""}, "/"));
+}
+
+TEST(OptionsTest, EndAtTwoHyphens) {
+    EXPECT_EQ(Options::parse({"--", "--background.opml"}, "/srv")->files.front(), "/srv/--background.opml");
+}
+
+TEST(OptionsTest, SurviveTheWayToAnotherProcess) {
+    const auto sent = Options::parse({"feed:a.example", "/srv/ä ö.opml"}, "/");
+    ASSERT_TRUE(sent);
+    Options received;
+    for (const std::string& uri : sent->uris())
+        EXPECT_TRUE(received.addURI(uri)) << uri;
+    EXPECT_EQ(received.addresses, sent->addresses);
+    EXPECT_EQ(received.files, sent->files);
+}
+
+} // namespace brindle::desktop

@@ -1,0 +1,155 @@
+#include "foundation/FileManager.hpp"
+#include "tests/desktop/EventLoop.hpp"
+#include "tests/desktop/PrivateBus.hpp"
+#include "tests/support/Folders.hpp"
+
+#include <QDBusConnectionInterface>
+#include <QProcess>
+#include <gmock/gmock.h>
+
+namespace brindle::desktop {
+
+using testing::AllOf;
+using testing::HasSubstr;
+using testing::StartsWith;
+
+namespace {
+
+/// The program itself, on no screen, on a bus and in a home of its own.
+class ProgramTest : public testing::Test {
+protected:
+    ~ProgramTest() override {
+        for (const auto& process : _processes)
+            desktop::stop(*process);
+    }
+
+    QProcess& start(const QStringList& arguments) {
+        QProcessEnvironment environment = _bus.environment();
+        const QString home = QString::fromStdString(_home.path().string());
+        for (const char* const name : {"HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME"})
+            environment.insert(QLatin1String(name), home);
+        environment.insert(QStringLiteral("QT_QPA_PLATFORM"), _platform);
+        for (const char* const name : {"DISPLAY", "WAYLAND_DISPLAY"})
+            environment.remove(QLatin1String(name));
+        environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
+        auto& process = *_processes.emplace_back(std::make_unique<QProcess>());
+        process.setProcessEnvironment(environment);
+        process.start(QString::fromStdString(testsupport::buildFolder() + "/bin/brindle"), arguments);
+        EXPECT_TRUE(process.waitForStarted());
+        return process;
+    }
+    /// Its exit status.
+    static int finish(QProcess& process) {
+        EXPECT_TRUE(runEventLoop([&] { return process.state() == QProcess::NotRunning; }));
+        EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
+        return process.exitCode();
+    }
+    bool runs(const QString& name = QStringLiteral("org.brindle.Brindle")) {
+        const QDBusConnection observer = _bus.connect();
+        return runEventLoop([&] { return observer.interface()->isServiceRegistered(name); });
+    }
+    /// No first launch with its questions.
+    void setUpPreferences() {
+        write("brindle/Preferences.plist",
+            R"(<?xml version="1.0" encoding="UTF-8"?><plist version="1.0"><dict><key>isFrstLaunch</key><false/></dict></plist>)");
+    }
+    void write(const std::string& name, std::string_view text) {
+        const std::filesystem::path file = _home.path() / name;
+        ASSERT_TRUE(FileManager::createDirectory(file.parent_path()));
+        ASSERT_TRUE(FileManager::writeAtomically(file, text));
+    }
+    /// What has been written to its console so far.
+    static std::string console(QProcess& process) {
+        process.setReadChannel(QProcess::StandardOutput);
+        return process.peek(1 << 20).toStdString();
+    }
+
+    PrivateBus _bus;
+    TemporaryFolder _home;
+    QString _platform = QStringLiteral("offscreen");
+    std::vector<std::unique_ptr<QProcess>> _processes;
+};
+
+} // namespace
+
+TEST_F(ProgramTest, TellsItsVersionAndItsUsageWithoutADisplay) {
+    _platform.clear();
+    QProcess& version = start({QStringLiteral("--version")});
+    EXPECT_EQ(finish(version), 0);
+    EXPECT_THAT(version.readAllStandardOutput().toStdString(), StartsWith("brindle 0."));
+    QProcess& help = start({QStringLiteral("--help")});
+    EXPECT_EQ(finish(help), 0);
+    EXPECT_THAT(help.readAllStandardOutput().toStdString(), AllOf(StartsWith("usage: brindle"), HasSubstr("--background")));
+}
+
+TEST_F(ProgramTest, RefusesAnUnknownOption) {
+    QProcess& program = start({QStringLiteral("--loud")});
+    EXPECT_EQ(finish(program), 2);
+    EXPECT_THAT(program.readAllStandardError().toStdString(), AllOf(HasSubstr("unknown option \"--loud\""), HasSubstr("usage: brindle")));
+}
+
+TEST_F(ProgramTest, SaysThatThereIsNoDisplay) {
+    _platform.clear();
+    QProcess& program = start({});
+    EXPECT_EQ(finish(program), 1);
+    EXPECT_THAT(program.readAllStandardError().toStdString(), HasSubstr("there is no display"));
+}
+
+TEST_F(ProgramTest, HandsAddressesAndFilesToTheProgramThatRuns) {
+    setUpPreferences();
+    write("mine.opml",
+        R"(<opml version="2.0"><body><outline text="G"><outline type="rss" text="A" xmlUrl="http://a.invalid/x"/></outline></body></opml>)");
+    QProcess& first = start({QStringLiteral("--background")});
+    ASSERT_TRUE(runs());
+    QProcess& second = start({QStringLiteral("feed://b.invalid/feed"), QString::fromStdString((_home / "mine.opml").string())});
+    EXPECT_EQ(finish(second), 0);
+    // Each is fetched as soon as it is there, and fails.
+    ASSERT_TRUE(
+        runEventLoop([&] { return QString::fromStdString(console(first)).count(QStringLiteral("A connection error occured")) >= 2; }));
+    first.terminate();
+    EXPECT_EQ(finish(first), 0);
+    const auto library = FileManager::contents(_home / "Brindle/Feeds.brindle");
+    ASSERT_TRUE(library);
+    EXPECT_THAT(*library, AllOf(HasSubstr("http://b.invalid/feed"), HasSubstr("http://a.invalid/x")));
+}
+
+TEST_F(ProgramTest, SavesWhenItIsAskedToEnd) {
+    setUpPreferences();
+    QProcess& program = start({QStringLiteral("--background"), QStringLiteral("https://c.invalid/feed")});
+    ASSERT_TRUE(runEventLoop([&] { return console(program).find("A connection error occured") != std::string::npos; }));
+    program.terminate();
+    EXPECT_EQ(finish(program), 0);
+    const auto library = FileManager::contents(_home / "Brindle/Feeds.brindle");
+    ASSERT_TRUE(library);
+    EXPECT_THAT(*library, HasSubstr("https://c.invalid/feed"));
+}
+
+TEST_F(ProgramTest, RunsOnceForEachSupportFolder) {
+    setUpPreferences();
+    start({QStringLiteral("--background")});
+    ASSERT_TRUE(runs());
+    const QString folder = QString::fromStdString((_home / "other").string());
+    write("other/Preferences.plist",
+        R"(<?xml version="1.0" encoding="UTF-8"?><plist version="1.0"><dict><key>isFrstLaunch</key><false/></dict></plist>)");
+    QProcess& other = start({QStringLiteral("--background"), QStringLiteral("--support-dir"), folder});
+    ASSERT_TRUE(runEventLoop([&] { return console(other).find("Building Menu...") != std::string::npos; }));
+    EXPECT_EQ(other.state(), QProcess::Running);
+}
+
+TEST_F(ProgramTest, StartsWithoutAnyBus) {
+    setUpPreferences();
+    QProcessEnvironment environment;
+    auto& process = *_processes.emplace_back(std::make_unique<QProcess>());
+    environment.insert(QStringLiteral("QT_QPA_PLATFORM"), _platform);
+    environment.insert(QStringLiteral("HOME"), QString::fromStdString(_home.path().string()));
+    environment.insert(QStringLiteral("XDG_CONFIG_HOME"), QString::fromStdString(_home.path().string()));
+    environment.insert(QStringLiteral("DBUS_SESSION_BUS_ADDRESS"), QStringLiteral("unix:path=/nonexistent"));
+    environment.insert(QStringLiteral("DBUS_SYSTEM_BUS_ADDRESS"), QStringLiteral("unix:path=/nonexistent"));
+    process.setProcessEnvironment(environment);
+    process.start(QString::fromStdString(testsupport::buildFolder() + "/bin/brindle"), {QStringLiteral("--background")});
+    ASSERT_TRUE(runEventLoop([&] { return console(process).find("Building Menu...") != std::string::npos; }));
+    process.terminate();
+    EXPECT_EQ(finish(process), 0);
+}
+
+} // namespace brindle::desktop
