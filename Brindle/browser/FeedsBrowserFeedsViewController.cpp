@@ -85,10 +85,13 @@ void FeedsBrowserFeedsViewController::deleteFeed() {
 }
 
 void FeedsBrowserFeedsViewController::removeSelectedFeed() {
+    if (const std::shared_ptr<Feed> feed = selectedFeed())
+        removeFeed(feed);
+}
+
+void FeedsBrowserFeedsViewController::removeFeed(const std::shared_ptr<Feed>& feed) {
     assertMainThread();
-    const std::shared_ptr<Feed> feed = selectedFeed();
-    if (!feed)
-        return;
+    const bool isSelected = feed == selectedFeed();
     const std::shared_ptr<FeedGroup> parent = feed->parent.lock();
     const auto& list = parent ? parent->feeds() : _environment.feedsManager->feeds;
     const auto place = std::find(list.begin(), list.end(), feed);
@@ -97,9 +100,11 @@ void FeedsBrowserFeedsViewController::removeSelectedFeed() {
     _environment.feedsManager->removeFeed(feed, parent);
     if (isThere)
         feedsOutlineViewDataController->removeRow(index, parent);
-    setSelectedFeed(nullptr);
+    if (isSelected)
+        setSelectedFeed(nullptr);
     _environment.refreshInterface();
-    sendCollection({});
+    if (isSelected)
+        sendCollection({});
 }
 
 bool FeedsBrowserFeedsViewController::validateUserInterfaceItem(std::string_view action) const {

@@ -35,6 +35,8 @@ public:
     void deleteFeed();
     /// Removes the selected entry without a question; nothing where none is selected.
     void removeSelectedFeed();
+    /// Removes an entry without a question. What is selected stays so, unless it is that entry.
+    void removeFeed(const std::shared_ptr<Feed>& feed);
     /// Whether an action of the outline's own can be chosen now.
     bool validateUserInterfaceItem(std::string_view action) const;
 

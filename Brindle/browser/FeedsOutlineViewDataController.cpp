@@ -201,6 +201,7 @@ void FeedsOutlineViewDataController::reveal(const std::shared_ptr<Feed>& feed) {
     const auto view = outlineView.lock();
     if (!view)
         return;
+    view->expandItem(groupOfKind(CollectionGroup::Kind::feeds));
     expandAncestors(*feed);
     if (const auto row = view->rowForItem(feed)) {
         view->selectRow(*row, false);

@@ -43,8 +43,8 @@ TEST_F(FeedsBrowserWindowControllerTest, ShowsItsWindowThenSetsTheTitle) {
 TEST_F(FeedsBrowserWindowControllerTest, RevealsTheFeedThatItIsShownFor) {
     controller.selectedFeed = x;
     controller.showWindow();
-    EXPECT_THAT(
-        takeCalls(), ElementsAre("expandItem Group", "selectRow x", "scrollRowToVisible x", "showWindow", "setTitle Feeds Browser"));
+    EXPECT_THAT(takeCalls(),
+        ElementsAre("expandItem FEEDS", "expandItem Group", "selectRow x", "scrollRowToVisible x", "showWindow", "setTitle Feeds Browser"));
 }
 
 TEST_F(FeedsBrowserWindowControllerTest, ListsTheArticlesOfAFeedThatItRevealsBeforeItHasTheKeyboard) {
@@ -61,7 +61,8 @@ TEST_F(FeedsBrowserWindowControllerTest, RevealsASeparatorWithoutListingAnything
     takeCalls();
     controller.selectedFeed = separator;
     controller.showWindow();
-    EXPECT_THAT(takeCalls(), ElementsAre("selectRow -", "scrollRowToVisible -", "showWindow", "setTitle Feeds Browser"));
+    EXPECT_THAT(
+        takeCalls(), ElementsAre("expandItem FEEDS", "selectRow -", "scrollRowToVisible -", "showWindow", "setTitle Feeds Browser"));
     EXPECT_EQ(feeds->selectedFeed(), separator);
     EXPECT_EQ(toolbarItem->selectedFeed(), separator);
     EXPECT_THAT(listed(), ElementsAre("b one"));
@@ -151,6 +152,18 @@ TEST_F(FeedsBrowserWindowControllerTest, DeletesTheSelectedFeedWhenThePersonConf
     EXPECT_THAT(listed(), IsEmpty());
     EXPECT_EQ(feeds->selectedFeed(), nullptr);
     EXPECT_FALSE(toolbarItem->isEnabled());
+}
+
+TEST_F(FeedsBrowserWindowControllerTest, RemovesAnEntryThatIsNotSelectedAndKeepsTheSelection) {
+    becomeKey();
+    outline->click(b);
+    takeCalls();
+    feeds->removeFeed(separator);
+    EXPECT_THAT(takeCalls(), ElementsAre("beginUpdates", "removeItem 1 in FEEDS", "endUpdates", "refreshInterface"));
+    EXPECT_THAT(names(manager->feeds), ElementsAre("Group", "b"));
+    EXPECT_EQ(feeds->selectedFeed(), b);
+    EXPECT_TRUE(toolbarItem->isEnabled());
+    EXPECT_THAT(listed(), ElementsAre("b one"));
 }
 
 TEST_F(FeedsBrowserWindowControllerTest, DeletesNothingWhenThePersonCancels) {

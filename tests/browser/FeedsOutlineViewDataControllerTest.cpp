@@ -181,7 +181,8 @@ TEST_F(FeedsOutlineViewDataControllerTest, RevealsAnEntryFromTheTopDown) {
     const auto item = add(makeItem("Feed"), inner);
     show();
     controller->reveal(item);
-    EXPECT_THAT(takeCalls(), ElementsAre("expandItem Outer", "expandItem Inner", "selectRow Feed", "scrollRowToVisible Feed"));
+    EXPECT_THAT(
+        takeCalls(), ElementsAre("expandItem FEEDS", "expandItem Outer", "expandItem Inner", "selectRow Feed", "scrollRowToVisible Feed"));
 }
 
 TEST_F(FeedsOutlineViewDataControllerTest, ClearsTheRowOfARemovedEntryWithinUpdates) {
