@@ -14,8 +14,8 @@ namespace brindle::desktop {
 inline constexpr const char* webEngineSwitches = "QTWEBENGINE_CHROMIUM_FLAGS";
 
 /// A widget with a web page in it, made by the plugin. Toolkit types alone, so that the plugin needs no other part of the program. What a
-/// page runs can read no file, gets no permission, starts no download, opens no window, and asks nothing of this machine or its private
-/// network unless it came from there. Thread: main.
+/// page runs can read no file, gets no permission, starts no download, opens no window and no socket, and asks nothing of this machine or
+/// its private network unless it came from there. Thread: main.
 class WebPageView {
 public:
     /// Why a page goes to an address, as the platform's web views number it.
@@ -48,7 +48,8 @@ public:
     virtual double progress() const = 0;
     /// Empty where the page has none.
     virtual QString title() const = 0;
-    /// Scrolls by most of what is seen; `done` is told whether the page was at its end already, also when it does not answer.
+    /// Scrolls by most of what is seen; `done` is told whether the page was at its end already, which none is before it is read. A view
+    /// that is gone by then tells nothing.
     virtual void scrollPage(bool down, std::function<void(bool wasAtEnd)> done) = 0;
 };
 

@@ -66,6 +66,10 @@ bool EnginePage::allowsLink(const QUrl& url) const {
     return isActivated && isLinkScheme(url.scheme()) && _allows && _allows(Navigation::linkActivated, url);
 }
 
+bool EnginePage::isOwnPage(const QUrl& url) const {
+    return url.scheme() == QLatin1String(PageScheme::name) ? _ownPages.contains(url.host()) : url == QUrl(QStringLiteral("about:blank"));
+}
+
 bool EnginePage::acceptNavigationRequest(const QUrl& url, NavigationType type, bool isMainFrame) {
     const bool isGranted = isAllowed(url, type, isMainFrame);
     if (isMainFrame)
@@ -78,10 +82,8 @@ bool EnginePage::isAllowed(const QUrl& url, NavigationType type, bool isMainFram
         return allowsLink(url);
     if (!isMainFrame)
         return true; // judged with all that is inside the page
-    const bool isOwn = url.host() == _ownAddress.host();
-    const bool isPage = url.scheme() == QLatin1String(PageScheme::name) || url == QUrl(QStringLiteral("about:blank"));
     const bool isNetwork = url.scheme() == QLatin1String("http") || url.scheme() == QLatin1String("https");
-    if (isPage ? !isOwn && !url.host().isEmpty() : !isNetwork || (isLocalHost(url.host()) && !isOwn))
+    if (isNetwork ? isLocalHost(url.host()) && url.host() != _ownAddress.host() : !isOwnPage(url))
         return false;
     return !_allows || _allows(navigation(type), url);
 }

@@ -3,6 +3,7 @@
 #include "desktop/toolkit/WebPluginInterface.hpp"
 
 #include <QElapsedTimer>
+#include <QSet>
 #include <QUrl>
 #include <QWebEnginePage>
 #include <functional>
@@ -23,6 +24,8 @@ public:
     void setAllowsNavigation(Allows allows) { _allows = std::move(allows); }
     /// What the program itself is about to load; its host may be of a private network.
     void setOwnAddress(const QUrl& url) { _ownAddress = url; }
+    /// A page that the program made and is about to load; a person may come back to it.
+    void addOwnPage(const QUrl& url) { _ownPages.insert(url.host()); }
     /// A person has pressed a button or a key on the page.
     void noteActivation() { _activation.start(); }
     /// Whether the last navigation that was asked for was refused.
@@ -40,9 +43,11 @@ protected:
 private:
     bool isAllowed(const QUrl& url, NavigationType type, bool isMainFrame) const;
     bool allowsLink(const QUrl& url) const;
+    bool isOwnPage(const QUrl& url) const;
 
     Allows _allows;
     QUrl _ownAddress;
+    QSet<QString> _ownPages;   ///< the hosts of their addresses
     QElapsedTimer _activation; ///< since the last one; invalid before the first
     bool _hasRefused = false;
 };

@@ -16,12 +16,14 @@ constexpr double millisecondsPerSecond = 1000.0;
 /// Runs beside the page's own scripts, which can't see or change it.
 constexpr quint32 scriptWorld = QWebEngineScript::ApplicationWorld;
 
-constexpr const char* scrollScript = R"((function (down) {
+/// A page that is still to come, or is not read to its end yet, is nowhere near its end.
+constexpr const char* scrollScript = R"((function (down, isLoaded) {
     const root = document.scrollingElement || document.documentElement;
     const before = root.scrollTop;
     root.scrollBy({ top: (down ? 1 : -1) * Math.max(40, window.innerHeight - 60), behavior: "instant" });
-    return root.scrollTop === before;
-})(%1))";
+    const isRead = isLoaded || (document.readyState !== "loading" && location.protocol !== "about:");
+    return isRead && root.scrollTop === before;
+})(%1, %2))";
 
 } // namespace
 
@@ -38,8 +40,8 @@ EnginePageView::EnginePageView(QWidget* parent) : _view(new EngineView(parent)),
 
 EnginePageView::~EnginePageView() {
     _events = {};
-    if (!_ownPage.isEmpty())
-        EngineProfile::shared().pages().remove(_ownPage);
+    for (const QUrl& each : _ownPages)
+        EngineProfile::shared().pages().remove(each);
     if (_page)
         _page->setAllowsNavigation({});
 }
@@ -70,12 +72,10 @@ void EnginePageView::setEvents(Events events) {
 }
 
 void EnginePageView::setHtml(const QByteArray& html) {
-    PageScheme& pages = EngineProfile::shared().pages();
-    if (!_ownPage.isEmpty())
-        pages.remove(_ownPage);
-    _ownPage = pages.add(html);
-    _page->setOwnAddress(_ownPage);
-    _page->load(_ownPage);
+    const QUrl url = _ownPages.emplace_back(EngineProfile::shared().pages().add(html));
+    _page->setOwnAddress(url);
+    _page->addOwnPage(url);
+    _page->load(url);
 }
 
 void EnginePageView::load(const QUrl& url, double seconds) {
@@ -125,10 +125,12 @@ void EnginePageView::setProgress(double progress) {
 }
 
 void EnginePageView::scrollPage(bool down, std::function<void(bool wasAtEnd)> done) {
-    const QString script = QString::fromLatin1(scrollScript).arg(down ? QStringLiteral("true") : QStringLiteral("false"));
-    _page->runJavaScript(script, scriptWorld, [done = std::move(done)](const QVariant& result) {
-        if (done)
-            done(!result.isValid() || result.toBool());
+    const auto literal = [](bool value) { return value ? QStringLiteral("true") : QStringLiteral("false"); };
+    const QString script = QString::fromLatin1(scrollScript).arg(literal(down), literal(_progress >= 1));
+    // The engine also answers, with nothing, when the page is destroyed.
+    _page->runJavaScript(script, scriptWorld, [self = QPointer(this), done = std::move(done)](const QVariant& result) {
+        if (self && done)
+            done(result.toBool());
     });
 }
 

@@ -7,6 +7,7 @@
 #include <QObject>
 #include <QPointer>
 #include <QTimer>
+#include <vector>
 
 namespace brindle::desktop {
 
@@ -40,7 +41,7 @@ private:
     const QPointer<EngineView> _view;
     const QPointer<EnginePage> _page;
     Events _events;
-    QUrl _ownPage; ///< the address of a page that the program made; empty while none is shown
+    std::vector<QUrl> _ownPages; ///< the addresses of those that the program made, shown or in the history
     QTimer _timeout;
     double _progress = 0;
 };

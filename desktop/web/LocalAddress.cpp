@@ -20,7 +20,8 @@ bool isLocalAddress(const QHostAddress& address) {
     static const std::vector<Subnet> subnets = [] {
         std::vector<Subnet> made;
         for (const char* const text : {"0.0.0.0/8", "10.0.0.0/8", "100.64.0.0/10", "127.0.0.0/8", "169.254.0.0/16", "172.16.0.0/12",
-                 "192.168.0.0/16", "::/128", "::1/128", "fc00::/7", "fe80::/10"})
+                 "192.0.0.0/24", "192.0.2.0/24", "192.168.0.0/16", "198.18.0.0/15", "198.51.100.0/24", "203.0.113.0/24", "240.0.0.0/4",
+                 "::/128", "::1/128", "100::/64", "2001:2::/48", "2001:db8::/32", "fc00::/7", "fe80::/10"})
             made.push_back(QHostAddress::parseSubnet(QString::fromLatin1(text)));
         return made;
     }();

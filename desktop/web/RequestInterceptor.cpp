@@ -11,11 +11,20 @@ namespace brindle::desktop {
 
 namespace {
 
-/// What a page may have inside it. What is inside the page already (data:, blob:) asks nobody.
+/// What a page may have inside it. What is inside the page already (data:, blob:) asks nobody. No sockets (ws:, wss:): nothing judges them
+/// by the address that they reach in the end, as it does requests.
 bool isKnownScheme(const QString& scheme) {
-    constexpr std::array<const char*, 7> known = {"http", "https", "ws", "wss", "data", "blob", "about"};
+    constexpr std::array<const char*, 5> known = {"http", "https", "data", "blob", "about"};
     return scheme == QLatin1String(PageScheme::name) ||
            std::any_of(known.begin(), known.end(), [&](const char* each) { return scheme == QLatin1String(each); });
+}
+
+/// Another port of the same machine is another server.
+bool isSameServer(const QUrl& one, const QUrl& other) {
+    constexpr int httpPort = 80;
+    constexpr int httpsPort = 443;
+    const auto port = [](const QUrl& url) { return url.port(url.scheme() == QLatin1String("https") ? httpsPort : httpPort); };
+    return one.host() == other.host() && port(one) == port(other);
 }
 
 } // namespace
@@ -28,7 +37,7 @@ void RequestInterceptor::interceptRequest(QWebEngineUrlRequestInfo& info) {
     if (info.resourceType() == QWebEngineUrlRequestInfo::ResourceTypeMainFrame || url.host().isEmpty() ||
         url.scheme() == QLatin1String(PageScheme::name))
         return;
-    if (isLocalHost(url.host()) && info.firstPartyUrl().host() != url.host())
+    if (isLocalHost(url.host()) && !isSameServer(info.firstPartyUrl(), url))
         info.block(true);
 }
 

@@ -46,7 +46,7 @@ void shareGraphics() {
 }
 
 /// Private Network Access, a draft of the Web Incubator CG: also judges by the address that a connection has in the end, whatever names and
-/// redirects led to it.
+/// redirects led to it. It leaves sockets out.
 void blockPrivateNetwork() {
     addSwitch("--enable-features=BlockInsecurePrivateNetworkRequestsFromUnknown,BlockInsecurePrivateNetworkRequestsForNavigations");
 }

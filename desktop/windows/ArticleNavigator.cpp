@@ -51,8 +51,9 @@ void ArticleNavigator::pageDown() {
     const auto shown = _container.shown();
     if (!shown || !_panes.articleViewController().article())
         return showNextUnread();
-    shown->scrollPage(true, [self = QPointer(this)](bool wasAtEnd) {
-        if (self && wasAtEnd)
+    shown->scrollPage(true, [self = QPointer(this), asked = std::weak_ptr(shown)](bool wasAtEnd) {
+        // Another article may be shown by the time the page answers.
+        if (self && wasAtEnd && self->_container.shown() == asked.lock())
             self->showNextUnread();
     });
 }

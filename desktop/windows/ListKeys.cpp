@@ -35,7 +35,9 @@ bool ListKeys::eventFilter(QObject* object, QEvent* event) {
     const auto* const handler = this->handler(key->key(), key->modifiers());
     if (!handler || !*handler)
         return false;
-    (*handler)();
+    // A key that is held down goes through no articles that nobody reads.
+    if (!key->isAutoRepeat() || key->key() != Qt::Key_Space)
+        (*handler)();
     return true;
 }
 

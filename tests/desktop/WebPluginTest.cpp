@@ -145,12 +145,56 @@ TEST_F(WebPluginTest, AsksNothingOfAnAddressOfThisMachineUnderAnotherName) {
     EXPECT_EQ(server->requestCount("/fetched"), 0U);
 }
 
+TEST_F(WebPluginTest, OpensNoSocketToAnAddressOfThisMachineUnderAnotherName) {
+    const std::string address = "ws" + openOrigin().substr(4);
+    showBody("<script>new WebSocket('" + address + "/from-page').onerror = () => document.title = 'refused'</script>");
+    ASSERT_TRUE(waitForTitle("refused"));
+    showBody("<script>const source = `new WebSocket('" + address +
+             "/from-worker').onerror = () => postMessage('refused too')`;"
+             "const worker = new Worker(URL.createObjectURL(new Blob([source])));"
+             "worker.onmessage = (event) => document.title = event.data</script>");
+    ASSERT_TRUE(waitForTitle("refused too"));
+    EXPECT_EQ(server->requestCount("/from-page"), 0U);
+    EXPECT_EQ(server->requestCount("/from-worker"), 0U);
+}
+
+TEST_F(WebPluginTest, LeavesAPageOfAFeedForNoAddressOfASpecialRange) {
+    std::vector<std::string> asked;
+    WebPageView::Events events;
+    events.allowsNavigation = [&](WebPageView::Navigation, const QUrl& url) {
+        asked.push_back(url.host().toStdString());
+        return url.scheme() == QLatin1String("brindle-page");
+    };
+    page->setEvents(std::move(events));
+    for (const std::string host : {"192.0.0.8", "192.0.2.1", "198.18.0.1", "198.19.255.1", "198.51.100.1", "203.0.113.1", "240.0.0.1",
+             "255.255.255.255", "[100::1]", "[2001:2::1]", "[2001:db8::1]"}) {
+        asked.clear();
+        showBody("<script>location = 'http://" + host + "/'; setTimeout(() => document.title = '" + host + "', 100)</script>");
+        ASSERT_TRUE(waitForTitle(host));
+        EXPECT_EQ(asked.size(), 1U) << host; // the page itself
+    }
+    asked.clear();
+    showBody("<script>location = 'http://198.20.0.1/'; setTimeout(() => document.title = 'open', 100)</script>");
+    ASSERT_TRUE(waitForTitle("open"));
+    ASSERT_EQ(asked.size(), 2U);
+    EXPECT_EQ(asked.back(), "198.20.0.1");
+}
+
 TEST_F(WebPluginTest, LoadsAPageOfAPrivateNetworkThatTheProgramAskedFor) {
     server->route("/style.css", HTTPServer::document("", "text/css"));
     server->route(
         "/own", HTTPServer::document("<link rel=stylesheet href='/style.css' onload='document.title = \"styled\"'>", "text/html"));
     page->load(QUrl(QString::fromStdString(server->origin() + "/own")), 60);
     EXPECT_TRUE(waitForTitle("styled"));
+}
+
+TEST_F(WebPluginTest, AsksNoOtherPortForAPageOfAPrivateNetwork) {
+    HTTPServer other;
+    server->route("/asking",
+        HTTPServer::document("<img src='" + other.origin() + "/image.png' onerror='document.title = \"refused\"'>", "text/html"));
+    page->load(QUrl(QString::fromStdString(server->origin() + "/asking")), 60);
+    ASSERT_TRUE(waitForTitle("refused"));
+    EXPECT_EQ(other.requestCount("/image.png"), 0U);
 }
 
 TEST_F(WebPluginTest, AsksAboutALinkThatAPersonPresses) {
@@ -260,6 +304,55 @@ TEST_F(WebPluginTest, ScrollsByPagesUntilTheEnd) {
         ++steps;
     }
     EXPECT_EQ(steps, 2);
+}
+
+TEST_F(WebPluginTest, IsNotAtItsEndBeforeThePageIsThere) {
+    showBody("short");
+    bool hasAnswered = false, wasAtEnd = true;
+    page->scrollPage(true, [&](bool end) {
+        wasAtEnd = end;
+        hasAnswered = true;
+    });
+    ASSERT_TRUE(runEventLoop([&] { return hasAnswered; }));
+    EXPECT_FALSE(wasAtEnd);
+}
+
+TEST_F(WebPluginTest, ScrollsAPageWhoseImagesAreOnTheirWay) {
+    HTTPServer::Response silent = HTTPServer::document("", "image/png");
+    silent.fault = HTTPServer::Response::Fault::hang;
+    server->route("/slow.png", silent);
+    server->route("/slow", HTTPServer::document("<title>read</title><img src='/slow.png'>", "text/html"));
+    page->load(QUrl(QString::fromStdString(server->origin() + "/slow")), 60);
+    ASSERT_TRUE(runEventLoop([&] { return server->requestCount("/slow.png") == 1; }));
+    bool wasAtEnd = false;
+    EXPECT_TRUE(runEventLoop([&] {
+        page->scrollPage(true, [&](bool end) { wasAtEnd = wasAtEnd || end; });
+        return wasAtEnd;
+    }));
+    EXPECT_EQ(finished, 0);
+}
+
+TEST_F(WebPluginTest, TellsNothingOfAScrollOnceItIsGone) {
+    showBody("short");
+    ASSERT_TRUE(runEventLoop([&] { return finished == 1; }));
+    int answers = 0;
+    page->scrollPage(true, [&](bool) { ++answers; });
+    QWidget* const widget = page->widget();
+    page.reset();
+    delete widget;
+    EXPECT_EQ(answers, 0);
+}
+
+TEST_F(WebPluginTest, GoesBackToAPageOfAFeedFromItsOriginal) {
+    server->route("/original", HTTPServer::document("<title>original</title>", "text/html"));
+    showBody("<title>article</title>");
+    ASSERT_TRUE(waitForTitle("article"));
+    page->load(QUrl(QString::fromStdString(server->origin() + "/original")), 60);
+    ASSERT_TRUE(waitForTitle("original"));
+    page->goBack();
+    ASSERT_TRUE(waitForTitle("article"));
+    page->goForward();
+    EXPECT_TRUE(waitForTitle("original"));
 }
 
 TEST_F(WebPluginTest, GoesBackAndForward) {
