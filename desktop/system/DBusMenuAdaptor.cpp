@@ -8,7 +8,7 @@ namespace brindle::desktop {
 DBusMenuAdaptor::DBusMenuAdaptor(MenuExport& menu) : QDBusAbstractAdaptor(&menu), _menu(menu) {
     connect(&menu, &MenuExport::layoutUpdated, this, [this](uint revision, int parent) { emit LayoutUpdated(revision, parent); });
     connect(&menu, &MenuExport::propertiesUpdated, this,
-        [this](const DBusMenuPropertiesList& items) { emit ItemsPropertiesUpdated(items, DBusMenuKeysList()); });
+        [this](const DBusMenuPropertiesList& items, const DBusMenuKeysList& removed) { emit ItemsPropertiesUpdated(items, removed); });
 }
 
 QString DBusMenuAdaptor::textDirection() {

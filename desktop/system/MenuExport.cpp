@@ -1,9 +1,7 @@
 #include "desktop/system/MenuExport.hpp"
 
-#include "desktop/toolkit/Images.hpp"
 #include "desktop/toolkit/Text.hpp"
 
-#include <QBuffer>
 #include <QCoreApplication>
 #include <algorithm>
 #include <deque>
@@ -17,7 +15,6 @@ namespace {
 constexpr std::size_t itemsAtOnce = 300;
 /// A message of the bus nests 64 containers at most, and each level of a layout takes three.
 constexpr int deepestLayout = 16;
-constexpr int iconSide = 16;
 
 /// A menu with a delegate gets what it shows when it opens, a view. Panels draw none: the item above it is chosen for itself.
 bool isForView(const Menu& menu) {
@@ -33,14 +30,6 @@ std::string titleWithoutCount(const std::string& title) {
 /// Underscores would mark shortcuts.
 QString label(const std::string& title) {
     return toQString(title).simplified().replace(QLatin1Char('_'), QLatin1String("__"));
-}
-
-QByteArray iconData(const Image& image) {
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::WriteOnly);
-    images::pixmap(image, {iconSide, iconSide}, 1).save(&buffer, "PNG");
-    return bytes;
 }
 
 } // namespace
@@ -68,13 +57,14 @@ void MenuExport::rebuild() {
     _nodes.clear();
     _idsOfItems.clear();
     _changed.clear();
+    _icons.clear();
     _formerIds = std::exchange(_ids, {});
     _nodes[0].menu = _menu;
     std::deque<int> toFill = {0};
     while (!toFill.empty()) {
         const int id = toFill.front();
         toFill.pop_front();
-        if (id != 0 && _nodes.size() > itemsAtOnce && !looked.contains(id))
+        if (id != 0 && !looked.contains(id) && _nodes.size() + _nodes[id].menu->items().size() > itemsAtOnce)
             continue;
         fill(id);
         for (const int child : _nodes[id].children) {
@@ -162,7 +152,7 @@ QVariantMap MenuExport::properties(int id) const {
         result.insert(QStringLiteral("toggle-state"), 1);
     }
     if (item.image())
-        result.insert(QStringLiteral("icon-data"), iconData(*item.image()));
+        result.insert(QStringLiteral("icon-data"), _icons.data(*item.image()));
     return result;
 }
 
@@ -223,15 +213,23 @@ void MenuExport::tellLayout() {
 
 void MenuExport::tellProperties() {
     DBusMenuPropertiesList items;
+    DBusMenuKeysList removed;
     for (const int id : std::exchange(_changed, {})) {
         DBusMenuProperties item = {id, properties(id)};
         // What is at its default is not among the properties, but may have been something else before.
         if (!item.properties.contains(QStringLiteral("enabled")))
             item.properties.insert(QStringLiteral("enabled"), true);
+        DBusMenuKeys absent = {id, {}};
+        for (const QString& key : {QStringLiteral("toggle-type"), QStringLiteral("toggle-state"), QStringLiteral("icon-data")}) {
+            if (!item.properties.contains(key))
+                absent.keys.append(key);
+        }
         items.append(item);
+        if (!absent.keys.isEmpty())
+            removed.append(absent);
     }
     if (!items.isEmpty())
-        emit propertiesUpdated(items);
+        emit propertiesUpdated(items, removed);
 }
 
 } // namespace brindle::desktop

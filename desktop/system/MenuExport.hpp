@@ -1,6 +1,7 @@
 #pragma once
 
 #include "desktop/system/DBusTypes.hpp"
+#include "desktop/system/MenuIcons.hpp"
 #include "platform/Menu.hpp"
 #include "platform/ResponderChain.hpp"
 
@@ -47,7 +48,8 @@ public:
 
 signals:
     void layoutUpdated(uint revision, int parent);
-    void propertiesUpdated(const brindle::desktop::DBusMenuPropertiesList& items);
+    /// `removed`: what the items have not, and may have had.
+    void propertiesUpdated(const brindle::desktop::DBusMenuPropertiesList& items, const brindle::desktop::DBusMenuKeysList& removed);
 
 private:
     /// What makes two items the same: their menu, what they do, what they stand for or are called, and which of such they are.
@@ -76,6 +78,7 @@ private:
     std::unordered_map<int, Node> _nodes;
     std::unordered_map<const MenuItem*, int> _idsOfItems;
     std::map<const Menu*, std::weak_ptr<Menu>> _observed;
+    mutable MenuIcons _icons; ///< of the present items
     Ids _ids;
     Ids _formerIds; ///< of the rebuild before
     int _lastId = 0;

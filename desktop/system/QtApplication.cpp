@@ -17,9 +17,11 @@ namespace {
 
 constexpr double iconSide = 64;
 
+/// The toolkit's icon in the tray of X11 is a window too, of those that no window manager sees.
 bool isWindow(const QWidget* widget) {
     const Qt::WindowType type = widget->windowType();
-    return widget->isVisible() && (type == Qt::Window || type == Qt::Dialog || type == Qt::Tool);
+    const bool isManaged = !widget->windowFlags().testFlag(Qt::BypassWindowManagerHint);
+    return widget->isVisible() && isManaged && (type == Qt::Window || type == Qt::Dialog || type == Qt::Tool);
 }
 
 QLabel* label(const QString& text, qreal scale, bool bold) {

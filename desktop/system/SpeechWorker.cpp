@@ -1,7 +1,5 @@
 #include "desktop/system/SpeechWorker.hpp"
 
-#include <QVoice>
-
 namespace brindle::desktop {
 
 void SpeechWorker::begin() {
@@ -12,6 +10,7 @@ void SpeechWorker::begin() {
         for (const QVoice& voice : _engine->availableVoices())
             names.append(voice.name());
     }
+    _ownVoice = _engine->voice();
     emit voicesFound(names);
 }
 
@@ -21,6 +20,8 @@ void SpeechWorker::speak(const QString& text, int voice, unsigned utterance) {
     const QList<QVoice> voices = voice < 0 ? QList<QVoice>() : _engine->availableVoices();
     if (voice >= 0 && voice < voices.size())
         _engine->setVoice(voices[voice]);
+    else if (_engine->voice() != _ownVoice)
+        _engine->setVoice(_ownVoice);
     _engine->say(text);
     // An engine that can't speak says nothing of it.
     if (_engine->state() == QTextToSpeech::Error)

@@ -3,6 +3,7 @@
 #include <QObject>
 #include <QStringList>
 #include <QTextToSpeech>
+#include <QVoice>
 #include <memory>
 
 namespace brindle::desktop {
@@ -28,6 +29,7 @@ private:
     void stateChanged(QTextToSpeech::State state);
 
     std::unique_ptr<QTextToSpeech> _engine;
+    QVoice _ownVoice; ///< what the engine speaks with where nothing else is asked for
     unsigned _utterance = 0;
     bool _hasBegun = false;
 };

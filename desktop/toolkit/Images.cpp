@@ -35,6 +35,7 @@ constexpr std::array<SystemImage, 4> systemImages = {{
     {"NSImageNameCaution", "caution", "dialog-warning"},
 }};
 
+constexpr std::string_view defaultFeedIcon = "default_feed_icon";
 constexpr qreal slashWidth = 2; // points
 
 QRectF fitted(QSizeF content, QSizeF frame) {
@@ -68,10 +69,10 @@ void drawNamed(QPainter& painter, std::string_view name, QSize pixels, const QCo
     painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
 }
 
-void drawData(QPainter& painter, const std::string& bytes, QSize pixels) {
+void drawData(QPainter& painter, const std::string& bytes, QSize pixels, const QColor& color) {
     const std::optional<QImage> image = decoded(bytes, pixels);
     if (!image)
-        return;
+        return drawNamed(painter, defaultFeedIcon, pixels, color);
     const QRectF place = fitted(image->size(), pixels);
     // Scaled down by itself: a painter's smoothing looks at four pixels only.
     const QImage scaled = image->scaled(place.size().toSize(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
@@ -158,9 +159,9 @@ QImage drawing(const Image& image, QSize pixels, qreal scale, const QColor& colo
     if (image.kind() == Image::Kind::named)
         drawNamed(painter, image.name(), pixels, color);
     else if (image.kind() == Image::Kind::defaultFeedIcon)
-        drawNamed(painter, "default_feed_icon", pixels, color);
+        drawNamed(painter, defaultFeedIcon, pixels, color);
     else
-        drawData(painter, image.data(), pixels);
+        drawData(painter, image.data(), pixels, color);
     if (image.isSlashed())
         drawSlash(painter, pixels, scale);
     return result;
@@ -175,9 +176,12 @@ std::optional<QImage> decoded(const std::string& bytes, QSize pixels) {
         return std::nullopt;
     QImageReader reader(&buffer);
     selectPicture(reader, pixels);
+    const QSize size = reader.size();
     if (reader.format() == "svg" || reader.format() == "svgz")
-        reader.setScaledSize(reader.size().scaled(pixels, Qt::KeepAspectRatio));
-    else if (const QSize size = reader.size(); std::max(size.width(), size.height()) > maximumSide)
+        reader.setScaledSize(size.scaled(pixels, Qt::KeepAspectRatio));
+    else if (size.isEmpty() || qint64(size.width()) * size.height() > maximumPixels)
+        return std::nullopt;
+    else if (std::max(size.width(), size.height()) > maximumSide)
         reader.setScaledSize(size.scaled(maximumSide, maximumSide, Qt::KeepAspectRatio));
     QImage image = reader.read();
     return image.isNull() ? std::nullopt : std::optional(std::move(image));

@@ -60,10 +60,21 @@ TEST(ImagesTest, DrawBytesAsLargeAsAskedFor) {
     EXPECT_EQ(image.pixelColor(16, 16), QColor(Qt::blue));
 }
 
-TEST(ImagesTest, DrawNothingForBytesThatAreNoImage) {
-    EXPECT_TRUE(isBlank(drawn(Image::withData("no image"))));
-    EXPECT_TRUE(isBlank(drawn(Image::withData(""))));
+TEST(ImagesTest, DrawTheDefaultIconOfFeedsForBytesThatAreNoImage) {
+    EXPECT_EQ(drawn(Image::withData("no image")), drawn(Image::defaultFeedIcon()));
+    EXPECT_EQ(drawn(Image::withData("")), drawn(Image::defaultFeedIcon()));
     EXPECT_FALSE(images::decoded("GIF89a", QSize(16, 16)));
+}
+
+TEST(ImagesTest, RefuseASmallFileOfManyPixels) {
+    EXPECT_TRUE(images::decoded(png(2048, Qt::blue), QSize(16, 16)));
+    EXPECT_FALSE(images::decoded(png(2049, Qt::blue), QSize(16, 16)));
+}
+
+TEST(ImagesTest, DrawASmallDrawingOfAnySize) {
+    const std::string drawing =
+        R"(<svg xmlns="http://www.w3.org/2000/svg" width="9000" height="9000"><rect width="9000" height="9000" fill="blue"/></svg>)";
+    EXPECT_EQ(drawn(Image::withData(drawing)).pixelColor(16, 16), QColor(Qt::blue));
 }
 
 TEST(ImagesTest, DrawARedSlashFromTheLowerLeftToTheUpperRight) {

@@ -140,18 +140,56 @@ TEST_F(MenuExportTest, TellsTheChangedPropertiesOfAnItem) {
     EXPECT_EQ(told[0].properties.value("label"), "Resume");
 }
 
+TEST_F(MenuExportTest, TellsThePropertiesThatAnItemHasNoMore) {
+    const auto item = add("Marked");
+    item->setState(true);
+    item->setImage(Image::defaultFeedIcon());
+    make();
+    QSignalSpy updates(_export.get(), &MenuExport::propertiesUpdated);
+    item->setState(false);
+    ASSERT_TRUE(runEventLoop([&] { return !updates.isEmpty(); }));
+    const auto removed = updates[0][1].value<DBusMenuKeysList>();
+    ASSERT_EQ(removed.size(), 1);
+    EXPECT_EQ(removed[0].id, idAt(0));
+    EXPECT_EQ(removed[0].keys, QStringList({"toggle-type", "toggle-state"}));
+}
+
+TEST_F(MenuExportTest, DrawsTheIconThatAnItemHasNow) {
+    const auto item = add("Item");
+    item->setImage(Image::defaultFeedIcon());
+    make();
+    const QVariant former = _export->properties(idAt(0)).value("icon-data");
+    EXPECT_EQ(_export->properties(idAt(0)).value("icon-data"), former);
+    item->setImage(Image::defaultFeedIcon().slashed());
+    EXPECT_NE(_export->properties(idAt(0)).value("icon-data"), former);
+}
+
 TEST_F(MenuExportTest, FillsTheSubmenusOfALargeMenuWhenTheyAreToBeShown) {
     const auto source = std::make_shared<SubmenuSourceFake>();
     for (int i = 0; i < 1000; ++i)
         add("Feed " + std::to_string(i))->setSubmenuSource(source);
     make();
-    EXPECT_LE(source->made, 1000);
     const int last = idAt(999);
     EXPECT_EQ(_export->layout(last, -1).properties.value("children-display"), "submenu");
     EXPECT_TRUE(_export->layout(last, -1).children.isEmpty());
     EXPECT_TRUE(_export->aboutToShow(last));
     EXPECT_THAT(labels(last), ElementsAre("below Feed 999"));
     EXPECT_FALSE(_export->aboutToShow(last));
+    EXPECT_EQ(source->made, 1000);
+}
+
+TEST_F(MenuExportTest, TellsOnlyTheSubmenusThatFitIntoALargeMenu) {
+    for (const int count : {200, 200, 10}) {
+        const auto below = std::make_shared<Menu>();
+        for (int i = 0; i < count; ++i)
+            below->addItem(std::make_shared<MenuItem>("Article", "act:"));
+        add("Feed " + std::to_string(_menu->items().size()), {})->setSubmenu(below);
+    }
+    make();
+    const DBusMenuLayout layout = _export->layout(0, -1);
+    EXPECT_EQ(child(layout, 0).children.size(), 200);
+    EXPECT_EQ(child(layout, 1).children.size(), 0);
+    EXPECT_EQ(child(layout, 2).children.size(), 10);
 }
 
 TEST_F(MenuExportTest, ShowsNoViews) {
