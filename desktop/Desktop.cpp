@@ -80,7 +80,10 @@ AppDelegateEnvironment Desktop::environment(const Options& options, const fs::pa
     result.defaultFeedAddress = _newsFeed.address();
     result.hasApplicationMenu = false;
     result.startsInBackground = options.background;
-    result.bundleIdentifier = SingleInstance::standardName;
+    const auto launchServices = std::make_shared<XDGLaunchServices>(folders);
+    // A program that is not installed can't be what links open in.
+    if (launchServices->isInstalled(std::string(SingleInstance::standardName) + ".desktop"))
+        result.bundleIdentifier = SingleInstance::standardName;
     result.launcherApplicationBundleID = std::string(SingleInstance::standardName) + ".Launcher";
     result.sessions = {std::make_shared<SystemClock>(), defaultNetworkRoute(), std::make_shared<SiteIconDiscovery>(), true};
     result.defaults = _defaults;
@@ -99,7 +102,7 @@ AppDelegateEnvironment Desktop::environment(const Options& options, const fs::pa
     result.makeSynthesizer = [speech] { return speech; };
     result.workspace = std::make_shared<QtWorkspace>();
     result.systemEvents = _systemEvents;
-    result.launchServices = std::make_shared<XDGLaunchServices>(folders);
+    result.launchServices = launchServices;
     result.loginItem = std::make_shared<AutostartLoginItem>(folders, fromQString(QCoreApplication::applicationFilePath()));
     result.runningApplications = std::make_shared<NoRunningApplications>();
     result.distributedNotificationCenter = std::make_shared<BusNotificationCenter>(bus);
@@ -148,7 +151,7 @@ void Desktop::connectStatusArea() {
     connect(
         qApp, &QGuiApplication::lastWindowClosed, this,
         [this] {
-            if (_systemEvents->hasURLEventHandler() && !_statusArea->hasStatusArea() && !QtApplication::hasVisibleWindow())
+            if (isLaunched() && !_statusArea->hasStatusArea() && !QtApplication::hasVisibleWindow())
                 QCoreApplication::exit(0);
         },
         Qt::QueuedConnection);
@@ -176,7 +179,7 @@ void Desktop::followStatusArea() {
 }
 
 void Desktop::showWhereUnreachable() {
-    if (_systemEvents->hasURLEventHandler() && !_statusArea->hasStatusArea() && !QtApplication::hasVisibleWindow())
+    if (isLaunched() && !_statusArea->hasStatusArea() && !QtApplication::hasVisibleWindow())
         perform(actions::showFeedsBrowser);
 }
 
@@ -189,7 +192,7 @@ void Desktop::watchNewsFeed() {
 void Desktop::show() {
     if (QtApplication::hasVisibleWindow())
         QtApplication().activate();
-    else if (_systemEvents->hasURLEventHandler())
+    else if (isLaunched())
         perform(actions::showFeedsBrowser);
 }
 
@@ -201,7 +204,7 @@ void Desktop::open(const Options& request) {
     for (const std::string& address : request.addresses)
         _systemEvents->openAddress(address);
     _files.insert(_files.end(), request.files.begin(), request.files.end());
-    if (_systemEvents->hasURLEventHandler())
+    if (isLaunched())
         openFiles();
 }
 
@@ -210,7 +213,14 @@ void Desktop::openFiles() {
         _delegate->openFiles(files);
 }
 
+/// Whether the library was loaded. Before, as while the first start asks its question, what is stored must stay as it is.
+bool Desktop::isLaunched() const {
+    return _systemEvents->hasURLEventHandler();
+}
+
 void Desktop::save() {
+    if (!isLaunched())
+        return;
     static_cast<void>(_delegate->feedsManager()->save());
     _delegate->savedArticlesManager()->save();
 }
@@ -219,7 +229,8 @@ int Desktop::run() {
     _delegate->applicationWillFinishLaunching();
     _delegate->applicationDidFinishLaunching();
     const int status = QApplication::exec();
-    _delegate->applicationWillTerminate();
+    if (isLaunched())
+        _delegate->applicationWillTerminate();
     return status;
 }
 

@@ -50,6 +50,7 @@ private:
     void openFiles();
     void followStatusArea();
     void showWhereUnreachable();
+    bool isLaunched() const;
     void save();
 
     RunLoopBridge _runLoop;

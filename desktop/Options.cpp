@@ -29,7 +29,7 @@ bool isOPML(const fs::path& file) {
 /// Absent for a URI that is no file of this machine.
 std::optional<fs::path> localFile(const std::string& uri) {
     const QUrl url(toQString(uri));
-    return url.isLocalFile() ? std::optional(fs::path(fromQString(url.toLocalFile()))) : std::nullopt;
+    return url.isLocalFile() && url.host().isEmpty() ? std::optional(fs::path(fromQString(url.toLocalFile()))) : std::nullopt;
 }
 
 } // namespace

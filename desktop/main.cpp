@@ -67,6 +67,9 @@ int run(const Options& options) {
     loadTexts(resources);
     SingleInstance instance(QDBusConnection::sessionBus(), instanceName(options));
     if (!instance.acquire()) {
+        // A start at login beside a session that was restored: there is nothing to show.
+        if (options.background && options.uris().empty())
+            return 0;
         const bool isDone = instance.handOver(toQStringList(options.uris()));
         return isDone ? 0 : refuse(localized("Brindle runs already, and doesn't answer."));
     }

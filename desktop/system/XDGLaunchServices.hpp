@@ -15,10 +15,11 @@ public:
     /// Only of programs whose desktop entries are there.
     std::optional<std::string> defaultHandler(std::string_view scheme) const override;
     void setDefaultHandler(std::string_view scheme, const std::string& bundleIdentifier) override;
+    /// Whether there is a desktop entry of this name, extension included.
+    bool isInstalled(const std::string& desktopEntry) const;
 
 private:
     std::vector<std::filesystem::path> lists() const;
-    bool isInstalled(const std::string& desktopEntry) const;
     std::optional<std::string> installedEntry(const std::vector<std::string>& desktopEntries) const;
     std::optional<std::string> associatedEntry(std::string_view type) const;
 

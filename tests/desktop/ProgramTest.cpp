@@ -1,6 +1,8 @@
 #include "foundation/FileManager.hpp"
 #include "tests/desktop/EventLoop.hpp"
 #include "tests/desktop/PrivateBus.hpp"
+#include "tests/desktop/StatusNotifierWatcherFake.hpp"
+#include "tests/desktop/VirtualDisplay.hpp"
 #include "tests/support/Folders.hpp"
 
 #include <QDBusConnectionInterface>
@@ -31,6 +33,8 @@ protected:
         environment.insert(QStringLiteral("QT_QPA_PLATFORM"), _platform);
         for (const char* const name : {"DISPLAY", "WAYLAND_DISPLAY"})
             environment.remove(QLatin1String(name));
+        if (!_display.isEmpty())
+            environment.insert(QStringLiteral("DISPLAY"), _display);
         environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
         auto& process = *_processes.emplace_back(std::make_unique<QProcess>());
         process.setProcessEnvironment(environment);
@@ -67,6 +71,7 @@ protected:
     PrivateBus _bus;
     TemporaryFolder _home;
     QString _platform = QStringLiteral("offscreen");
+    QString _display; ///< of X11; empty: none
     std::vector<std::unique_ptr<QProcess>> _processes;
 };
 
@@ -134,6 +139,59 @@ TEST_F(ProgramTest, RunsOnceForEachSupportFolder) {
     QProcess& other = start({QStringLiteral("--background"), QStringLiteral("--support-dir"), folder});
     ASSERT_TRUE(runEventLoop([&] { return console(other).find("Building Menu...") != std::string::npos; }));
     EXPECT_EQ(other.state(), QProcess::Running);
+}
+
+TEST_F(ProgramTest, EndsAtOnceWhereItRunsAndIsToStayInTheBackground) {
+    setUpPreferences();
+    QProcess& first = start({QStringLiteral("--background")});
+    ASSERT_TRUE(runs());
+    QProcess& second = start({QStringLiteral("--background")});
+    EXPECT_EQ(finish(second), 0);
+    EXPECT_EQ(first.state(), QProcess::Running);
+}
+
+TEST_F(ProgramTest, LeavesAStoredLibraryAloneWhereItEndsBeforeItHasReadIt) {
+    setUpPreferences();
+    QProcess& program = start({QStringLiteral("--background"), QStringLiteral("https://c.invalid/feed")});
+    ASSERT_TRUE(runEventLoop([&] { return console(program).find("A connection error occured") != std::string::npos; }));
+    program.terminate();
+    EXPECT_EQ(finish(program), 0);
+    const auto library = FileManager::contents(_home / "Brindle/Feeds.brindle");
+    ASSERT_TRUE(library);
+
+    write("brindle/Preferences.plist", R"(<?xml version="1.0" encoding="UTF-8"?><plist version="1.0"><dict/></plist>)");
+    QProcess& greeting = start({});
+    ASSERT_TRUE(runs());
+    // Answered once its event loop runs.
+    const QDBusMessage answer = PrivateBus::call(_bus.connect(), QStringLiteral("org.brindle.Brindle"),
+        QStringLiteral("/org/brindle/Brindle"), QStringLiteral("org.freedesktop.Application"), QStringLiteral("Activate"), {QVariantMap()});
+    EXPECT_EQ(answer.type(), QDBusMessage::ReplyMessage);
+    greeting.terminate();
+    EXPECT_EQ(finish(greeting), 0);
+    EXPECT_EQ(FileManager::contents(_home / "Brindle/Feeds.brindle").value_or(std::string()), *library);
+}
+
+TEST_F(ProgramTest, ShowsItsIconAndItsMenuOnADisplay) {
+    const VirtualDisplay display;
+    ASSERT_TRUE(display.isThere());
+    _platform = QStringLiteral("xcb");
+    _display = display.name();
+    setUpPreferences();
+    const QDBusConnection panel = _bus.connect();
+    const StatusNotifierWatcherFake watcher(panel);
+    QProcess& program = start({QStringLiteral("--background")});
+    ASSERT_TRUE(runEventLoop([&] { return !watcher.items.isEmpty(); }));
+    const QString item = watcher.items.front();
+    const auto call = [&](const char* method) {
+        return PrivateBus::call(panel, item, QStringLiteral("/StatusNotifierItem"), QStringLiteral("org.kde.StatusNotifierItem"),
+            QLatin1String(method), {200, 20});
+    };
+    // Opens the menu, then closes it.
+    EXPECT_EQ(call("Activate").type(), QDBusMessage::ReplyMessage);
+    EXPECT_EQ(call("Activate").type(), QDBusMessage::ReplyMessage);
+    EXPECT_EQ(call("ContextMenu").type(), QDBusMessage::ReplyMessage);
+    program.terminate();
+    EXPECT_EQ(finish(program), 0);
 }
 
 TEST_F(ProgramTest, StartsWithoutAnyBus) {
