@@ -27,11 +27,20 @@ std::vector<QAbstractButton*> addButtons(QMessageBox& box, const std::vector<std
     return buttons;
 }
 
+/// Whether a window that stays above the others would cover an alert, which would then block all and be out of reach.
+bool hasFloatingWindow() {
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    return std::any_of(windows.begin(), windows.end(),
+        [](const QWidget* window) { return window->isVisible() && window->windowFlags().testFlag(Qt::WindowStaysOnTopHint); });
+}
+
 void show(const Alert& alert, AlertPresenter::Answer answer, QWidget* window) {
     const std::vector<std::string> titles = alert.buttons.empty() ? std::vector{localized("OK")} : alert.buttons;
     auto* const box = new QMessageBox(window);
     box->setAttribute(Qt::WA_DeleteOnClose);
     box->setWindowModality(window ? Qt::WindowModal : Qt::ApplicationModal);
+    // Only now: the box takes other flags with its modality.
+    box->setWindowFlag(Qt::WindowStaysOnTopHint, !window && hasFloatingWindow());
     box->setWindowTitle(QGuiApplication::applicationDisplayName());
     box->setTextFormat(Qt::PlainText);
     box->setIcon(titles.size() > 1 ? QMessageBox::Question : QMessageBox::Information);

@@ -19,6 +19,8 @@ namespace brindle::desktop {
 
 namespace {
 
+constexpr qsizetype longestText = 20'000; ///< a paragraph of megabytes takes seconds to be laid out
+
 /// Keeps an ampersand from becoming the mark of a letter on the keyboard.
 QString literalText(std::string_view text) {
     return toQString(text).replace(QLatin1Char('&'), QLatin1String("&&"));
@@ -52,7 +54,7 @@ void bind(Control& control, QWidget* widget) {
 void bind(TextField& field, QLabel* label) {
     label->setTextFormat(Qt::PlainText);
     new ControlBinding(field, label, [&field, label] {
-        label->setText(toQString(field.stringValue()));
+        label->setText(titleText(field.stringValue()));
         label->setForegroundRole(field.textColor() == TextField::Color::systemGray ? QPalette::PlaceholderText : QPalette::WindowText);
     });
 }
@@ -76,7 +78,7 @@ void bind(TextView& view, QPlainTextEdit* edit) {
     new ControlBinding(view, edit, [&view, edit] {
         edit->setFont(toQFont(view.font(), edit->font()));
         // Of the markup that a text stood in, blank lines are left around it.
-        edit->setPlainText(toQString(view.string()).trimmed());
+        edit->setPlainText(shortened(toQString(view.string()).trimmed(), longestText));
     });
 }
 

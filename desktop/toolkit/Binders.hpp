@@ -29,9 +29,11 @@ class QWidget;
 namespace brindle::desktop {
 
 void bind(Control& control, QWidget* widget);
+/// The label shows the beginning of a text that is too long for one.
 void bind(TextField& field, QLabel* label);
 /// `changed` is called after a person has changed the text.
 void bind(TextField& field, QLineEdit* edit, std::function<void()> changed = {});
+/// The widget shows the first 20,000 characters.
 void bind(TextView& view, QPlainTextEdit* edit);
 /// A press presses the model; `pressed` is for a model without a press of its own.
 void bind(Button& button, QAbstractButton* widget, std::function<void()> pressed = {});

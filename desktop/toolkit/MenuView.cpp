@@ -26,7 +26,7 @@ QColor toQColor(const Color& color) {
 
 /// An ampersand of the title is no mark of a shortcut, and its line breaks and tabs lay nothing out.
 QString actionText(const std::string& title, const QFont& font) {
-    QString text = toQString(title).simplified();
+    QString text = titleText(title).simplified();
     // Few letters need no measuring: none is four times as wide as the average.
     if (text.size() > longestTitle / 4) {
         const QFontMetrics metrics(font);

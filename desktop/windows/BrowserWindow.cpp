@@ -90,7 +90,7 @@ void BrowserWindow::bindPanes(FeedsBrowserSplitViewController& panes) {
     }
     FeedsBrowserFeedsViewController& feeds = panes.feedsViewController();
     _feedsView->onDoubleAction = [&feeds] { feeds.editFeed(); };
-    _feedMenu = std::make_shared<FeedMenu>([&feeds] { feeds.editFeed(); });
+    _feedMenu = std::make_shared<FeedMenu>([&feeds] { feeds.editFeed(); }, [&feeds](const auto& feed) { feeds.removeFeed(feed); });
     _feedsView->widget().onMenu = [this](const QModelIndex& row, const QPoint& place) {
         showFeedMenu(_feedsView->widget().outline().item(row), place);
     };
@@ -103,7 +103,7 @@ void BrowserWindow::bindPanes(FeedsBrowserSplitViewController& panes) {
 void BrowserWindow::showFeedMenu(const OutlineItem& item, const QPoint& place) {
     const auto feed = std::dynamic_pointer_cast<Feed>(item);
     const auto menu = feed ? _feedMenu->make(feed) : nullptr;
-    if (!menu || menu->items().empty())
+    if (!menu)
         return;
     auto* const shown = new MenuView(menu, _chain, &widget());
     shown->setAttribute(Qt::WA_DeleteOnClose);

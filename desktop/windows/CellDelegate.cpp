@@ -149,7 +149,7 @@ void CellDelegate::drawCounted(
     }
     painter.setPen(textColor(option));
     const int left = place.right() + gap;
-    drawText(painter, option, {left, option.rect.top(), right - left, option.rect.height()}, toQString(name.stringValue()));
+    drawText(painter, option, {left, option.rect.top(), right - left, option.rect.height()}, titleText(name.stringValue()));
 }
 
 void CellDelegate::drawHeader(QPainter& painter, const QStyleOptionViewItem& option, const GroupTableCellView& cell) {
@@ -159,7 +159,7 @@ void CellDelegate::drawHeader(QPainter& painter, const QStyleOptionViewItem& opt
     font.setPointSizeF(font.pointSizeF() * headerScale);
     painter.setFont(font);
     painter.setPen(textColor(option, true));
-    drawText(painter, option, option.rect.adjusted(gap / 2, 0, -gap, 0), toQString(cell.nameTextField.stringValue()));
+    drawText(painter, option, option.rect.adjusted(gap / 2, 0, -gap, 0), titleText(cell.nameTextField.stringValue()));
 }
 
 void CellDelegate::drawArticle(QPainter& painter, const QStyleOptionViewItem& option, const ArticleNameTableCellView& cell) {
@@ -174,7 +174,7 @@ void CellDelegate::drawArticle(QPainter& painter, const QStyleOptionViewItem& op
     font.setBold(isUnread);
     painter.setFont(font);
     painter.setPen(textColor(option));
-    drawText(painter, option, rect, toQString(cell.nameTextField.stringValue()));
+    drawText(painter, option, rect, titleText(cell.nameTextField.stringValue()));
 }
 
 void CellDelegate::drawImage(QPainter& painter, const QStyleOptionViewItem& option, const ImageView& view) {

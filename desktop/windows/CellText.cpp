@@ -21,13 +21,13 @@ QString with(const QString& name, const QString& more) {
 
 QString cellName(const TableCellView& cell) {
     if (const auto* const feed = dynamic_cast<const FeedTableCellView*>(&cell))
-        return toQString(feed->nameTextField.stringValue());
+        return titleText(feed->nameTextField.stringValue());
     if (const auto* const collection = dynamic_cast<const CollectionEntityTableCellView*>(&cell))
-        return toQString(collection->nameTextField.stringValue());
+        return titleText(collection->nameTextField.stringValue());
     if (const auto* const group = dynamic_cast<const GroupTableCellView*>(&cell))
-        return toQString(group->nameTextField.stringValue());
+        return titleText(group->nameTextField.stringValue());
     if (const auto* const article = dynamic_cast<const ArticleNameTableCellView*>(&cell))
-        return toQString(article->nameTextField.stringValue());
+        return titleText(article->nameTextField.stringValue());
     return {};
 }
 

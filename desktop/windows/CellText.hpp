@@ -6,7 +6,7 @@
 
 namespace brindle::desktop {
 
-/// The name that a cell shows; empty for one that shows none.
+/// The name that a cell shows, or its beginning; empty for one that shows none.
 QString cellName(const TableCellView& cell);
 
 /// What a screen reader says of a cell: the name, and in words what the cell draws beside it.

@@ -12,6 +12,7 @@ namespace brindle::desktop {
 namespace {
 
 constexpr std::string_view editFeed = "editFeed:";
+constexpr std::string_view removeSeparator = "removeSeparator:";
 
 } // namespace
 
@@ -30,12 +31,21 @@ std::shared_ptr<Menu> FeedMenu::make(const std::shared_ptr<Feed>& feed) {
         menu->addItem(MenuItem::separatorItem());
         append(feed->kind == Feed::Kind::group ? "Edit Feed Group" : "Edit Feed", editFeed)->setTarget(weak_from_this());
         append("Remove Feed", browseractions::deleteFeed);
+    } else {
+        append("Remove Separator", removeSeparator)->setTarget(weak_from_this());
     }
     return menu;
 }
 
 bool FeedMenu::respondsTo(std::string_view action) const {
-    return action == editFeed;
+    return action == editFeed || action == removeSeparator;
+}
+
+void FeedMenu::perform(const Action& action) {
+    if (action.name == editFeed)
+        _edit();
+    else if (const auto feed = std::dynamic_pointer_cast<Feed>(action.representedObject()))
+        _remove(feed);
 }
 
 } // namespace brindle::desktop

@@ -46,7 +46,7 @@ void FeedsPickerTable::showRow(std::size_t row) {
     QListWidgetItem& item = *_list->item(place);
     const Button* const box = _cells[row] ? &_cells[row]->checkBox : nullptr;
     item.setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable);
-    item.setText(box ? toQString(box->title()) : QString());
+    item.setText(box ? titleText(box->title()) : QString());
     item.setToolTip(item.text());
     item.setCheckState(box && box->state() ? Qt::Checked : Qt::Unchecked);
 }

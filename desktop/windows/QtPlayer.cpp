@@ -19,15 +19,22 @@ QtPlayer::QtPlayer(const URL& url, QVideoWidget* video) {
 }
 
 void QtPlayer::replaceCurrentItem(const URL& url) {
+    ++_item;
+    // The same address is loaded anew only after another one.
+    _media.setSource({});
     _status = Status::unknown;
     _error.reset();
     const QUrl address(toQString(url.absoluteString()), QUrl::StrictMode);
     if (address.scheme() == QLatin1String("http") || address.scheme() == QLatin1String("https"))
         return _media.setSource(address);
-    _media.setSource({});
     // Whoever makes the player can't listen before it is made.
     QMetaObject::invokeMethod(
-        this, [this] { fail(localized("Only what is on the network can be played.")); }, Qt::QueuedConnection);
+        this,
+        [this, item = _item] {
+            if (item == _item)
+                fail(localized("Only what is on the network can be played."));
+        },
+        Qt::QueuedConnection);
 }
 
 void QtPlayer::setRate(double rate) {

@@ -40,6 +40,7 @@ private:
     QMediaPlayer _media;
     std::weak_ptr<PlayerObserver> _observer;
     Status _status = Status::unknown;
+    unsigned _item = 0; ///< the number of the item, for what is told later
     std::optional<std::string> _error;
 };
 

@@ -40,7 +40,7 @@ void QtWindow::setHandlers(ResponderChain::Handlers handlers) {
 }
 
 void QtWindow::setTitle(const std::string& title) {
-    _widget->setWindowTitle(toQString(title));
+    _widget->setWindowTitle(titleText(title));
 }
 
 void QtWindow::setLevel(Level level) {
@@ -105,6 +105,16 @@ void QtWindow::place() {
     frame.moveBottom(std::min(frame.bottom(), room.bottom()));
     frame.moveTopLeft({std::max(frame.left(), room.left()), std::max(frame.top(), room.top())});
     _widget->move(frame.topLeft());
+}
+
+void QtWindow::cascadeFrom(const QtWindow& other) {
+    constexpr QPoint step(24, 24); // points
+    if (_widget->isMaximized() || other._widget->isMaximized())
+        return;
+    const QRect room = other._widget->screen()->availableGeometry();
+    const QRect frame(other._widget->pos() + step, _widget->size());
+    _widget->move(room.contains(frame) ? frame.topLeft() : room.topLeft());
+    _isPlaced = true;
 }
 
 void QtWindow::show() {

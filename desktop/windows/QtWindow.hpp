@@ -31,6 +31,9 @@ public:
     QMainWindow& widget() const { return *_widget; }
     /// What the window's controllers take of actions while it has the keyboard.
     void setHandlers(ResponderChain::Handlers handlers);
+    /// Before it is shown: takes a place a little below and to the right of another window, so that both can be seen. Does nothing where
+    /// either fills the screen.
+    void cascadeFrom(const QtWindow& other);
 
     void setDelegate(std::weak_ptr<WindowDelegate> delegate) override { _delegate = std::move(delegate); }
     void setTitle(const std::string& title) override;

@@ -41,6 +41,8 @@ void QtWindowFactory::showArticleWindow(const FeedsBrowserEnvironment& environme
     window->onClose = [this, closed = window.get()] {
         std::erase_if(_articleWindows, [closed](const auto& each) { return each.get() == closed; });
     };
+    if (!_articleWindows.empty())
+        window->window().cascadeFrom(_articleWindows.back()->window());
     _articleWindows.push_back(window);
     window->show();
 }

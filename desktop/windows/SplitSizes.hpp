@@ -2,6 +2,7 @@
 
 #include "foundation/UserDefaults.hpp"
 
+#include <QList>
 #include <QObject>
 #include <QTimer>
 #include <memory>
@@ -19,14 +20,18 @@ public:
     SplitSizes(QSplitter* splitter, std::shared_ptr<UserDefaults> defaults, const std::string& name);
     ~SplitSizes() override;
 
+    bool eventFilter(QObject* object, QEvent* event) override;
+
 private:
     void restore();
+    void rememberSizes();
     void save();
 
     QSplitter* const _splitter;
     const std::shared_ptr<UserDefaults> _defaults;
     const std::string _key;
-    QTimer _timer; ///< gathers the many steps of one drag
+    QList<int> _sizes; ///< of each pane, when it was last shown; 0 for one that never was
+    QTimer _timer;     ///< gathers the many steps of one drag
 };
 
 } // namespace brindle::desktop

@@ -1,9 +1,11 @@
 #include "desktop/windows/ArticleWindow.hpp"
 
+#include "desktop/windows/QtWindowFactory.hpp"
 #include "tests/browser/BrowserFixture.hpp"
 #include "tests/desktop/EventLoop.hpp"
 
 #include <QAbstractButton>
+#include <QApplication>
 #include <QTest>
 
 namespace brindle::desktop {
@@ -53,6 +55,23 @@ TEST_F(ArticleWindowTest, EscapeClosesItAndItsEndIsToldLater) {
     QTest::keyClick(&window->window().widget(), Qt::Key_Escape);
     EXPECT_FALSE(window->window().isVisible());
     EXPECT_TRUE(runEventLoop([&] { return isTold; }));
+}
+
+TEST_F(ArticleWindowTest, ASecondOneStandsBesideTheFirst) {
+    QtWindowFactory factory(windows, alerts, std::make_shared<StatusMenu>(), std::make_shared<WebPluginLoader>(folder / "none.so"));
+    defaults->set("NSWindow Frame ArticleWindow", std::string("100 100 400 300"));
+    std::vector<QWidget*> shown;
+    for (int i = 0; i < 2; ++i) {
+        factory.showArticleWindow(environment, item->articles().front());
+        ASSERT_TRUE(runEventLoop([] { return QApplication::activeWindow() != nullptr; }));
+    }
+    for (QWidget* const each : QApplication::topLevelWidgets()) {
+        if (each->isVisible() && each->windowTitle() == "one")
+            shown.push_back(each);
+    }
+    ASSERT_EQ(shown.size(), 2U);
+    EXPECT_EQ((shown[0]->pos() - shown[1]->pos()).manhattanLength(), 48);
+    EXPECT_EQ(shown[0]->size(), shown[1]->size());
 }
 
 } // namespace

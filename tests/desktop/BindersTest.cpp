@@ -83,6 +83,14 @@ TEST_F(BindersTest, ALabelShowsMarkupAsItStands) {
     EXPECT_EQ(label->textFormat(), Qt::PlainText);
 }
 
+TEST_F(BindersTest, ALabelShowsTheBeginningOfALongText) {
+    TextField field;
+    field.setStringValue(std::string(5'000'000, 'x'));
+    auto* const label = make<QLabel>();
+    bind(field, label);
+    EXPECT_EQ(label->text(), QString(1000, QLatin1Char('x')) + QChar(0x2026));
+}
+
 TEST_F(BindersTest, WhatIsTypedReachesTheModel) {
     TextField field;
     field.setEditable(true);
@@ -133,6 +141,20 @@ TEST_F(BindersTest, ATextViewShowsItsText) {
     bind(view, edit);
     EXPECT_EQ(edit->toPlainText(), "one\ntwo");
     EXPECT_TRUE(edit->isReadOnly());
+}
+
+TEST_F(BindersTest, ATextViewShowsTheBeginningOfALongTextWithoutTearingACharacter) {
+    std::string text = "x";
+    for (int i = 0; i < 100'000; ++i)
+        text += "\U0001F41C"; // a surrogate pair in UTF-16
+    TextView view;
+    view.setString(text);
+    auto* const edit = make<QPlainTextEdit>();
+    bind(view, edit);
+    const QString shown = edit->toPlainText();
+    EXPECT_EQ(shown.size(), 20'000);
+    EXPECT_TRUE(shown.isValidUtf16());
+    EXPECT_TRUE(shown.endsWith(QChar(0x2026)));
 }
 
 TEST_F(BindersTest, APressPressesTheModel) {

@@ -19,8 +19,9 @@ protected:
     BrowserWindowTest() { environment.resources = testsupport::sourceFolder() + "/resources"; }
 
     /// Makes it of what the library and the preferences are by then, and shows it with the keyboard.
-    void show() {
-        made = makeFeedsBrowserWindow(windows, std::make_shared<WebPluginLoader>(folder / "none.so"), statusMenu, environment);
+    void show() { show(std::make_shared<WebPluginLoader>(folder / "none.so")); }
+    void show(const std::shared_ptr<WebPluginLoader>& loader) {
+        made = makeFeedsBrowserWindow(windows, loader, statusMenu, environment);
         made.controller->showWindow();
         ASSERT_TRUE(QTest::qWaitForWindowActive(&made.window->widget()));
     }

@@ -1,9 +1,11 @@
 #include "tests/desktop/BrowserWindowFixture.hpp"
 
 #include "desktop/toolkit/MenuView.hpp"
+#include "tests/desktop/WebEngine.hpp"
 
 #include <QApplication>
 #include <QContextMenuEvent>
+#include <QKeyEvent>
 #include <QSplitter>
 #include <QToolButton>
 #include <algorithm>
@@ -100,13 +102,36 @@ TEST_F(BrowserWindowTest, TheMenuKeyOffersWhatCanBeDoneWithTheFeed) {
     EXPECT_EQ(application->senders.back()->representedObject(), item);
 }
 
-TEST_F(BrowserWindowTest, ASeparatorHasNoMenu) {
+TEST_F(BrowserWindowTest, TheMenuOfASeparatorRemovesIt) {
+    add(makeItem("Alpha"));
     const auto separator = add(FeedSeparator::make());
     show();
     feeds().setCurrentIndex(feeds().outline().indexOf(separator));
     QContextMenuEvent event(QContextMenuEvent::Keyboard, {}, {});
     QApplication::sendEvent(&feeds(), &event);
-    EXPECT_FALSE(made.window->widget().findChild<MenuView*>());
+    const auto* const menu = made.window->widget().findChild<MenuView*>();
+    ASSERT_TRUE(menu);
+    ASSERT_EQ(menu->actions().size(), 1);
+    EXPECT_EQ(menu->actions().front()->text(), "Remove Separator");
+    menu->actions().front()->trigger();
+    EXPECT_THAT(names(manager->feeds), ElementsAre("Alpha"));
+    EXPECT_THAT(feedRows(), ElementsAre("Collections", "Today", "Unread Articles", "Saved Articles", "Feeds", "Alpha"));
+}
+
+TEST_F(BrowserWindowTest, ALongNameIsShownByItsBeginning) {
+    add(makeItem(std::string(1'000'000, 'x')));
+    show();
+    EXPECT_EQ(feedRows().back(), std::string(1000, 'x') + "\u2026");
+}
+
+TEST_F(BrowserWindowTest, AFeedIsRevealedWhereTheFeedsAreClosed) {
+    const auto item = add(makeItem("Alpha"));
+    show();
+    const QModelIndex header = feeds().outline().indexOf(item).parent();
+    feeds().collapse(header);
+    select(item);
+    EXPECT_TRUE(feeds().isExpanded(header));
+    EXPECT_EQ(selectedFeedRow(), "Alpha");
 }
 
 TEST_F(BrowserWindowTest, DeleteWithoutASelectedFeedDoesNothing) {
@@ -150,6 +175,31 @@ TEST_F(BrowserWindowTest, SpaceAtTheEndOfAnArticleGoesToTheNextUnreadOne) {
     EXPECT_EQ(shownTitle(), "one");
     QTest::keyClick(&articles(), Qt::Key_Space);
     EXPECT_EQ(shownTitle(), "two");
+}
+
+TEST_F(BrowserWindowTest, SpacesPassOverNoArticleWhosePageIsStillToCome) {
+    const auto item = add(makeItem("Alpha", {"one", "two", "three"}));
+    show(WebEngine::start());
+    select(item);
+    for (int i = 0; i < 3; ++i)
+        QTest::keyClick(&articles(), Qt::Key_Space);
+    bool hasAnswered = false;
+    made.window->articlePane().container()->shown()->scrollPage(false, [&](bool) { hasAnswered = true; });
+    ASSERT_TRUE(runEventLoop([&] { return hasAnswered; }));
+    EXPECT_EQ(shownTitle(), "one");
+    EXPECT_FALSE(item->articles()[1]->entry->isRead());
+}
+
+TEST_F(BrowserWindowTest, SpaceThatIsHeldDownGoesToOneArticleAlone) {
+    const auto item = add(makeItem("Alpha", {"one", "two"}));
+    show();
+    select(item);
+    QTest::keyPress(&articles(), Qt::Key_Space);
+    for (int i = 0; i < 3; ++i) {
+        QKeyEvent repeated(QEvent::KeyPress, Qt::Key_Space, Qt::NoModifier, QStringLiteral(" "), true);
+        QApplication::sendEvent(&articles(), &repeated);
+    }
+    EXPECT_EQ(shownTitle(), "one");
 }
 
 TEST_F(BrowserWindowTest, WhoReadsInTheArticleGoesOnReadingInTheNextOne) {
@@ -289,6 +339,23 @@ TEST_F(BrowserWindowTest, TheWidthsOfThePanesComeBack) {
     made = {};
     show();
     EXPECT_EQ(made.window->splitter().sizes(), sizes);
+}
+
+TEST_F(BrowserWindowTest, TheWidthsThatArePulledDuringASearchComeBack) {
+    show();
+    QTest::keyClick(&feeds(), Qt::Key_F, Qt::ControlModifier);
+    QTest::keyClicks(&searchField(), "needle");
+    ASSERT_FALSE(feeds().isVisible());
+    QSplitter& splitter = made.window->splitter();
+    splitter.setSizes({0, 500, 400});
+    emit splitter.splitterMoved(500, 2);
+    const int articlesWidth = splitter.sizes()[1];
+    made = {};
+    const std::string key = "NSSplitView Subview Frames " + std::string(FeedsBrowserWindowController::frameAutosaveName);
+    const QStringList widths = QString::fromStdString(defaults->stringForKey(key).value_or("")).split(QLatin1Char(' '));
+    ASSERT_EQ(widths.size(), 3);
+    EXPECT_GT(widths[0].toInt(), 0);
+    EXPECT_EQ(widths[1].toInt(), articlesWidth);
 }
 
 TEST_F(BrowserWindowTest, EveryControlHasANameForAScreenReader) {

@@ -74,6 +74,33 @@ TEST_F(MediaPlayerViewTest, TellsAFailureOnceAndStaysOpen) {
     EXPECT_EQ(alerts->alerts.size(), 2U);
 }
 
+TEST_F(MediaPlayerViewTest, TriesAnAddressAgainThatFailed) {
+    QMainWindow& shown = play(server.origin() + "/talk.wav");
+    ASSERT_TRUE(waitUntil([&] { return !alerts->alerts.empty(); }));
+    server.route("/talk.wav", HTTPServer::document(silence(60), "audio/x-wav"));
+    play(server.origin() + "/talk.wav");
+    EXPECT_TRUE(waitUntil([&] { return shown.findChild<QToolButton*>()->accessibleName() == QStringLiteral("Pause"); }));
+    EXPECT_EQ(alerts->alerts.size(), 1U);
+}
+
+TEST_F(MediaPlayerViewTest, StartsAgainWhatIsPlaying) {
+    server.route("/talk.wav", HTTPServer::document(silence(60), "audio/x-wav"));
+    QMainWindow& shown = play(server.origin() + "/talk.wav");
+    const auto isPlaying = [&] { return shown.findChild<QToolButton*>()->accessibleName() == QStringLiteral("Pause"); };
+    ASSERT_TRUE(waitUntil(isPlaying));
+    play(server.origin() + "/talk.wav");
+    EXPECT_TRUE(waitUntil([&] { return isPlaying() && shown.findChild<QToolButton*>()->isEnabled(); }));
+    EXPECT_TRUE(alerts->alerts.empty());
+}
+
+TEST_F(MediaPlayerViewTest, TellsNoFailureOfWhatWasReplaced) {
+    server.route("/talk.wav", HTTPServer::document(silence(60), "audio/x-wav"));
+    play("file:///usr/share/sounds/alsa/Noise.wav");
+    QMainWindow& shown = play(server.origin() + "/talk.wav", "Second");
+    EXPECT_TRUE(waitUntil([&] { return shown.findChild<QToolButton*>()->accessibleName() == QStringLiteral("Pause"); }));
+    EXPECT_TRUE(alerts->alerts.empty());
+}
+
 TEST_F(MediaPlayerViewTest, PlaysNoFiles) {
     play("file:///usr/share/sounds/alsa/Noise.wav");
     ASSERT_TRUE(waitUntil([&] { return !alerts->alerts.empty(); }));

@@ -88,6 +88,19 @@ TEST_F(QtAlertPresenterTest, HangsASheetOnTheKeyWindow) {
     EXPECT_EQ(_answers, std::vector{1000});
 }
 
+TEST_F(QtAlertPresenterTest, ComesUpAboveAWindowThatStaysAboveTheOthers) {
+    QMainWindow floating;
+    floating.setWindowFlag(Qt::WindowStaysOnTopHint);
+    floating.show();
+    _alerts.runModal({"Failed", "", {"OK"}}, answer());
+    EXPECT_TRUE(shown()->windowFlags().testFlag(Qt::WindowStaysOnTopHint));
+    button(QStringLiteral("OK"))->click();
+    floating.hide();
+    _alerts.runModal({"Failed", "", {"OK"}}, answer());
+    EXPECT_FALSE(shown()->windowFlags().testFlag(Qt::WindowStaysOnTopHint));
+    button(QStringLiteral("OK"))->click();
+}
+
 TEST_F(QtAlertPresenterTest, ShowsASheetByItselfWithoutAWindow) {
     _alerts.beginSheet({"Delete?", "", {"Yes", "No"}}, answer());
     EXPECT_EQ(shown()->parentWidget(), nullptr);
