@@ -62,6 +62,15 @@ protected:
         ASSERT_TRUE(FileManager::createDirectory(file.parent_path()));
         ASSERT_TRUE(FileManager::writeAtomically(file, text));
     }
+    /// Runs the program until it has tried to fetch a feed that it was given, asks it to end, and gives the file of its library.
+    auto librarySavedAtTheEnd() {
+        setUpPreferences();
+        QProcess& program = start({QStringLiteral("--background"), QStringLiteral("https://c.invalid/feed")});
+        EXPECT_TRUE(runEventLoop([&] { return console(program).find("A connection error occured") != std::string::npos; }));
+        program.terminate();
+        EXPECT_EQ(finish(program), 0);
+        return FileManager::contents(_home / "Brindle/Feeds.brindle");
+    }
     /// What has been written to its console so far.
     static std::string console(QProcess& process) {
         process.setReadChannel(QProcess::StandardOutput);
@@ -119,12 +128,7 @@ TEST_F(ProgramTest, HandsAddressesAndFilesToTheProgramThatRuns) {
 }
 
 TEST_F(ProgramTest, SavesWhenItIsAskedToEnd) {
-    setUpPreferences();
-    QProcess& program = start({QStringLiteral("--background"), QStringLiteral("https://c.invalid/feed")});
-    ASSERT_TRUE(runEventLoop([&] { return console(program).find("A connection error occured") != std::string::npos; }));
-    program.terminate();
-    EXPECT_EQ(finish(program), 0);
-    const auto library = FileManager::contents(_home / "Brindle/Feeds.brindle");
+    const auto library = librarySavedAtTheEnd();
     ASSERT_TRUE(library);
     EXPECT_THAT(*library, HasSubstr("https://c.invalid/feed"));
 }
@@ -151,12 +155,7 @@ TEST_F(ProgramTest, EndsAtOnceWhereItRunsAndIsToStayInTheBackground) {
 }
 
 TEST_F(ProgramTest, LeavesAStoredLibraryAloneWhereItEndsBeforeItHasReadIt) {
-    setUpPreferences();
-    QProcess& program = start({QStringLiteral("--background"), QStringLiteral("https://c.invalid/feed")});
-    ASSERT_TRUE(runEventLoop([&] { return console(program).find("A connection error occured") != std::string::npos; }));
-    program.terminate();
-    EXPECT_EQ(finish(program), 0);
-    const auto library = FileManager::contents(_home / "Brindle/Feeds.brindle");
+    const auto library = librarySavedAtTheEnd();
     ASSERT_TRUE(library);
 
     write("brindle/Preferences.plist", R"(<?xml version="1.0" encoding="UTF-8"?><plist version="1.0"><dict/></plist>)");
