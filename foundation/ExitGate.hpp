@@ -1,13 +1,18 @@
 #pragma once
 
-#include <atomic>
-#include <shared_mutex>
+#include <condition_variable>
+#include <memory>
+#include <mutex>
 
 namespace brindle {
 
 /// Keeps threads that live as long as the process out of the libraries once it ends: what libraries clean up at exit, a thread at work
 /// would still use. Never to be destroyed, since threads may come until the process is gone. Thread: any.
 class ExitGate {
+    struct Leaving {
+        void operator()(ExitGate* gate) const { gate->leave(); }
+    };
+
 public:
     /// Closes a gate at its end. To be made as a static object after the libraries in question were set up, so that it ends before they do.
     class Closer {
@@ -21,17 +26,23 @@ public:
         ExitGate& _gate;
     };
 
-    /// To be held while at work; waits forever once the gate is closed.
-    std::shared_lock<std::shared_timed_mutex> enter() {
-        _isClosed.wait(true);
-        return std::shared_lock(_mutex);
-    }
+    /// To be held while at work.
+    using Visit = std::unique_ptr<ExitGate, Leaving>;
+
+    /// Waits forever once the gate is closed.
+    Visit enter();
+    /// Null once the gate is closed.
+    Visit tryEnter();
     /// Waits, a second at most, until all are out, and lets nobody in again.
     void close();
 
 private:
-    std::atomic<bool> _isClosed = false;
-    std::shared_timed_mutex _mutex;
+    void leave();
+
+    std::mutex _mutex;
+    std::condition_variable _changed;
+    unsigned _visitors = 0;
+    bool _isClosed = false;
 };
 
 } // namespace brindle
