@@ -7,7 +7,6 @@
 #include <QEvent>
 #include <QLayout>
 #include <QScreen>
-#include <algorithm>
 #include <utility>
 
 namespace brindle::desktop {
@@ -101,9 +100,9 @@ void QtWindow::place() {
     const QRect room = (active ? active : _widget.get())->screen()->availableGeometry();
     QRect frame(QPoint(), _widget->size());
     frame.moveCenter((active ? active->frameGeometry() : room).center());
-    frame.moveRight(std::min(frame.right(), room.right()));
-    frame.moveBottom(std::min(frame.bottom(), room.bottom()));
-    frame.moveTopLeft({std::max(frame.left(), room.left()), std::max(frame.top(), room.top())});
+    frame = fitted(frame, room);
+    if ((_styleMask & resizable) != 0)
+        _widget->resize(frame.size());
     _widget->move(frame.topLeft());
 }
 

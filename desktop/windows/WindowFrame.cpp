@@ -27,6 +27,15 @@ bool isOnScreen(const QRect& frame) {
     });
 }
 
+/// A screen may have become smaller since.
+QRect fittedToScreens(const QRect& frame) {
+    QRect desktop;
+    for (const QScreen* const screen : QGuiApplication::screens())
+        desktop |= screen->availableGeometry();
+    const bool isTooLarge = frame.width() > desktop.width() || frame.height() > desktop.height();
+    return isTooLarge ? fitted(frame, desktop) : frame;
+}
+
 std::optional<QRect> frameOf(const QStringList& words) {
     if (words.size() < numberCount)
         return std::nullopt;
@@ -38,10 +47,18 @@ std::optional<QRect> frameOf(const QStringList& words) {
             return std::nullopt;
     }
     const QRect frame(numbers[0], numbers[1], numbers[2], numbers[3]);
-    return frame.isEmpty() || !isOnScreen(frame) ? std::nullopt : std::optional(frame);
+    return frame.isEmpty() || !isOnScreen(frame) ? std::nullopt : std::optional(fittedToScreens(frame));
 }
 
 } // namespace
+
+QRect fitted(QRect frame, const QRect& room) {
+    frame.setSize(frame.size().boundedTo(room.size()));
+    frame.moveRight(std::min(frame.right(), room.right()));
+    frame.moveBottom(std::min(frame.bottom(), room.bottom()));
+    frame.moveTopLeft({std::max(frame.left(), room.left()), std::max(frame.top(), room.top())});
+    return frame;
+}
 
 WindowFrame::WindowFrame(std::shared_ptr<UserDefaults> defaults, std::string name)
     : _defaults(std::move(defaults)), _key("NSWindow Frame " + std::move(name)) {}

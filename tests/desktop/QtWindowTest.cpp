@@ -147,6 +147,22 @@ TEST_F(QtWindowTest, AFrameThatNoScreenShowsIsNotTaken) {
     }
 }
 
+TEST_F(QtWindowTest, AFrameLargerThanTheDesktopIsMadeToFit) {
+    const QRect room = QGuiApplication::primaryScreen()->availableGeometry();
+    const auto window = make();
+    defaults->set("NSWindow Frame Name", "50 60 " + std::to_string(room.width() + 100) + " 300");
+    window->setFrameUsingName("Name");
+    EXPECT_EQ(window->widget().geometry(), QRect(room.left(), 60, room.width(), 300));
+}
+
+TEST_F(QtWindowTest, AWindowLargerThanTheScreenOpensAsLargeAsIt) {
+    const QRect room = QGuiApplication::primaryScreen()->availableGeometry();
+    const auto window = make();
+    window->widget().resize(room.width() / 2, room.height() + 100);
+    show(*window);
+    EXPECT_EQ(window->widget().size(), QSize(room.width() / 2, room.height()));
+}
+
 TEST_F(QtWindowTest, AWindowWithoutAFrameOpensOverTheOneInUse) {
     const auto first = make();
     first->widget().setGeometry(200, 100, 400, 300);
