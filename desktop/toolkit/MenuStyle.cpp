@@ -1,10 +1,12 @@
 #include "desktop/toolkit/MenuStyle.hpp"
 
 #include "desktop/toolkit/MenuView.hpp"
+#include "desktop/toolkit/Palettes.hpp"
 
 #include <QApplication>
 #include <QPainter>
 #include <QPointer>
+#include <QStyleFactory>
 #include <QStyleOptionMenuItem>
 
 namespace brindle::desktop {
@@ -36,6 +38,20 @@ void drawMark(QPainter& painter, const QRect& column, const QColor& color) {
     painter.restore();
 }
 
+/// The toolkit's own separators are shadows, which nobody sees by dark.
+bool isFaintSeparator(const QStyleOption* option) {
+    const auto* const item = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
+    return item && item->menuItemType == QStyleOptionMenuItem::Separator && item->text.isEmpty() && isDark(item->palette);
+}
+
+void drawSeparator(QPainter& painter, const QStyleOption& option) {
+    constexpr int margin = 5;
+    constexpr float faint = 0.22F;
+    QColor color = option.palette.color(QPalette::Text);
+    color.setAlphaF(faint);
+    painter.fillRect(QRect(option.rect.left() + margin, option.rect.center().y(), option.rect.width() - 2 * margin, 1), color);
+}
+
 } // namespace
 
 QStyle* MenuStyle::shared() {
@@ -44,10 +60,22 @@ QStyle* MenuStyle::shared() {
         style = new MenuStyle;
         style->setParent(qApp);
     }
+    style->followApplication();
     return style;
 }
 
+/// The application has another style where it has colours of its own.
+void MenuStyle::followApplication() {
+    const QString name = QApplication::style()->name();
+    if (baseStyle()->name() == name)
+        return;
+    if (QStyle* const followed = QStyleFactory::create(name))
+        setBaseStyle(followed);
+}
+
 void MenuStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter, const QWidget* widget) const {
+    if (element == CE_MenuItem && isFaintSeparator(option))
+        return drawSeparator(*painter, *option);
     const QStyleOptionMenuItem* const item = element == CE_MenuItem ? markedItem(option, widget) : nullptr;
     if (!item)
         return QProxyStyle::drawControl(element, option, painter, widget);

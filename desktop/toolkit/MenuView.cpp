@@ -8,6 +8,7 @@
 #include <QActionEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QScreen>
 #include <QStyleOptionMenuItem>
 #include <algorithm>
 #include <utility>
@@ -16,7 +17,8 @@ namespace brindle::desktop {
 
 namespace {
 
-constexpr int longestTitle = 64;  ///< in average characters of the menu's font
+constexpr int besideTitle = 120;  ///< points: room for mark, image, arrow and the edges of the menu
+constexpr int leastTitle = 200;   ///< points, on whatever screen
 constexpr int typingPause = 1000; ///< milliseconds
 
 QColor toQColor(const Color& color) {
@@ -24,14 +26,14 @@ QColor toQColor(const Color& color) {
         static_cast<float>(color.red), static_cast<float>(color.green), static_cast<float>(color.blue), static_cast<float>(color.alpha));
 }
 
-/// An ampersand of the title is no mark of a shortcut, and its line breaks and tabs lay nothing out.
-QString actionText(const std::string& title, const QFont& font) {
+/// An ampersand of the title is no mark of a shortcut, and its line breaks and tabs lay nothing out. At most `width` points wide.
+QString actionText(const std::string& title, const QFont& font, int width) {
+    constexpr int widestLetter = 4; // times the average
     QString text = titleText(title).simplified();
-    // Few letters need no measuring: none is four times as wide as the average.
-    if (text.size() > longestTitle / 4) {
-        const QFontMetrics metrics(font);
-        text = metrics.elidedText(text, Qt::ElideRight, metrics.averageCharWidth() * longestTitle);
-    }
+    const QFontMetrics metrics(font);
+    // Few letters need no measuring.
+    if (text.size() * widestLetter * metrics.averageCharWidth() > width)
+        text = metrics.elidedText(text, Qt::ElideRight, width);
     return text.replace(QLatin1Char('&'), QLatin1String("&&"));
 }
 
@@ -39,7 +41,6 @@ QString actionText(const std::string& title, const QFont& font) {
 
 MenuView::MenuView(std::shared_ptr<Menu> menu, std::shared_ptr<ResponderChain> chain, QWidget* parent)
     : QMenu(parent), _menu(std::move(menu)), _chain(std::move(chain)) {
-    setStyle(MenuStyle::shared());
     setSeparatorsCollapsible(true);
     connect(this, &QMenu::aboutToShow, this, [this] {
         if (!std::exchange(_isOpen, true))
@@ -70,6 +71,7 @@ std::shared_ptr<MenuItem> MenuView::item(const QAction* action) const {
 
 void MenuView::fill() {
     empty();
+    setStyle(MenuStyle::shared());
     _menu->willOpen(*_chain);
     const Menu::Items items = _menu->items();
     for (const std::shared_ptr<MenuItem>& each : items) {
@@ -102,7 +104,7 @@ void MenuView::addItem(const std::shared_ptr<MenuItem>& item) {
     if (item->isSeparator())
         action->setSeparator(true);
     else if (!item->view())
-        action->setText(actionText(item->title(), letters));
+        action->setText(actionText(item->title(), letters, titleWidth()));
     if (item->state()) {
         action->setCheckable(true);
         action->setChecked(true);
@@ -111,6 +113,11 @@ void MenuView::addItem(const std::shared_ptr<MenuItem>& item) {
     connect(action, &QAction::triggered, this, [this, item] { _chain->perform(item); });
     _items.emplace(action, item);
     addAction(action);
+}
+
+/// So much of a title fits on the screen.
+int MenuView::titleWidth() const {
+    return std::max(screen()->availableGeometry().width() - besideTitle, leastTitle);
 }
 
 void MenuView::makeSubmenu(QAction* action) {

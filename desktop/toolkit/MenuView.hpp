@@ -14,7 +14,7 @@ namespace brindle::desktop {
 /// Shows a menu of the program. Each time that it opens it takes the items as they are then, after who takes their actions was asked, and
 /// never changes while it is open; a submenu's view is made when somebody points at its item. An item that has an action beside its submenu
 /// is chosen by a click or Enter; pointing at it, or the arrow key, opens the submenu. Who types letters goes to the next item that begins
-/// with them. Thread: main.
+/// with them. Titles are shown whole as far as the screen is wide. Thread: main.
 class MenuView : public QMenu {
     Q_OBJECT
 
@@ -38,6 +38,7 @@ private:
     void fill();
     void empty();
     void addItem(const std::shared_ptr<MenuItem>& item);
+    int titleWidth() const;
     void makeSubmenu(QAction* action);
     void didClose();
     void choose(const QAction* action);

@@ -6,7 +6,9 @@
 #include "tests/fakes/ActionHandlerFake.hpp"
 #include "tests/fakes/MenuDelegateFake.hpp"
 
+#include <QApplication>
 #include <QLabel>
+#include <QProxyStyle>
 #include <QScreen>
 #include <QTest>
 #include <gmock/gmock.h>
@@ -199,6 +201,43 @@ TEST_F(MenuViewTest, ShowsAnItemsViewAndGivesItBack) {
     item->view()->removeFromSuperview();
     EXPECT_FALSE(label->isVisible());
     EXPECT_EQ(label->parentWidget(), nullptr);
+}
+
+TEST_F(MenuViewTest, ShowsATitleWholeAsFarAsTheScreenIsWide) {
+    const std::string title = std::string(80, 'i') + " the end";
+    add(title);
+    add(std::string(100'000, 'm'));
+    open();
+    EXPECT_EQ(texts().front(), title);
+    EXPECT_TRUE(QString::fromStdString(texts().back()).endsWith(QChar(0x2026)));
+    const int room = _view->screen()->availableGeometry().width();
+    EXPECT_LE(_view->width(), room);
+    EXPECT_GT(_view->width(), room - 150);
+}
+
+TEST_F(MenuViewTest, HasTheStyleThatTheApplicationHasByNow) {
+    const QString before = QApplication::style()->name();
+    const auto styleName = [this] { return static_cast<QProxyStyle*>(open().style())->baseStyle()->name(); };
+    add("Item");
+    EXPECT_EQ(styleName(), before);
+    _view->hide();
+    QApplication::setStyle(QStringLiteral("windows"));
+    EXPECT_EQ(styleName(), "windows");
+    _view->hide();
+    QApplication::setStyle(before);
+    EXPECT_EQ(styleName(), before);
+}
+
+TEST_F(MenuViewTest, DrawsSeparatorsThatAreSeenByDark) {
+    _view->setPalette(QPalette(Qt::white, Qt::black, Qt::black, Qt::black, Qt::black, Qt::white, Qt::white, Qt::black, Qt::black));
+    add("First");
+    _menu->addItem(MenuItem::separatorItem());
+    add("Second");
+    MenuView& view = open();
+    const QRect place = view.actionGeometry(view.actions().at(1));
+    const QImage image = view.grab(place).toImage();
+    EXPECT_GT(
+        qGray(image.pixel(image.width() / 2, place.height() / 2)) + qGray(image.pixel(image.width() / 2, (place.height() - 1) / 2)), 40);
 }
 
 TEST_F(MenuViewTest, ScrollsALongListRatherThanOutgrowTheScreen) {
