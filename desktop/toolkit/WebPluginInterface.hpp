@@ -35,10 +35,12 @@ public:
     /// Belongs to its parent; null when that has destroyed it.
     virtual QWidget* widget() const = 0;
     virtual void setEvents(Events events) = 0;
-    /// A page of any size in UTF-8, which comes from nowhere: relative addresses in it lead nowhere.
+    /// A page of any size in UTF-8, which comes from nowhere: relative addresses in it lead nowhere. Its root element has the attribute
+    /// "data-color-scheme", which says "light" or "dark" as the program is at any moment.
     virtual void setHtml(const QByteArray& html) = 0;
-    /// Over http or https; any other address is refused. `seconds`: after so long without an answer the load ends.
-    virtual void load(const QUrl& url, double seconds) = 0;
+    /// Over http or https, from the open network or from `host`, which may be one of this machine or its private network: false, with
+    /// nothing done, for any other address. `seconds`: after so long without an answer the load ends.
+    virtual bool load(const QUrl& url, const QString& host, double seconds) = 0;
     virtual void reload() = 0;
     virtual bool canGoBack() const = 0;
     virtual bool canGoForward() const = 0;

@@ -80,10 +80,10 @@ bool EnginePage::acceptNavigationRequest(const QUrl& url, NavigationType type, b
 bool EnginePage::isAllowed(const QUrl& url, NavigationType type, bool isMainFrame) const {
     if (type == NavigationTypeLinkClicked)
         return allowsLink(url);
+    // What is inside the page is judged by its requests as well, but those of a redirect may be on their way by then.
     if (!isMainFrame)
-        return true; // judged with all that is inside the page
-    const bool isNetwork = url.scheme() == QLatin1String("http") || url.scheme() == QLatin1String("https");
-    if (isNetwork ? isLocalHost(url.host()) && url.host() != _ownAddress.host() : !isOwnPage(url))
+        return !isNetworkAddress(url) || mayBeWithin(this->url(), url);
+    if (isNetworkAddress(url) ? isLocalHost(url.host()) && !_ownHosts.contains(url.host()) : !isOwnPage(url))
         return false;
     return !_allows || _allows(navigation(type), url);
 }

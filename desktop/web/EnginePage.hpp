@@ -22,8 +22,8 @@ public:
     explicit EnginePage(QObject* parent);
 
     void setAllowsNavigation(Allows allows) { _allows = std::move(allows); }
-    /// What the program itself is about to load; its host may be of a private network.
-    void setOwnAddress(const QUrl& url) { _ownAddress = url; }
+    /// What the program itself is about to load, and a person may come back to; its host may be of a private network.
+    void addOwnAddress(const QUrl& url) { _ownHosts.insert(url.host()); }
     /// A page that the program made and is about to load; a person may come back to it.
     void addOwnPage(const QUrl& url) { _ownPages.insert(url.host()); }
     /// A person has pressed a button or a key on the page.
@@ -46,7 +46,7 @@ private:
     bool isOwnPage(const QUrl& url) const;
 
     Allows _allows;
-    QUrl _ownAddress;
+    QSet<QString> _ownHosts;   ///< of what the program loaded from the network
     QSet<QString> _ownPages;   ///< the hosts of their addresses
     QElapsedTimer _activation; ///< since the last one; invalid before the first
     bool _hasRefused = false;

@@ -1,9 +1,13 @@
 #include "desktop/web/EnginePageView.hpp"
 
+#include "desktop/toolkit/Palettes.hpp"
 #include "desktop/web/EngineProfile.hpp"
+#include "desktop/web/LocalAddress.hpp"
 
+#include <QEvent>
 #include <QWebEngineHistory>
 #include <QWebEngineScript>
+#include <QWebEngineScriptCollection>
 #include <utility>
 
 namespace brindle::desktop {
@@ -25,11 +29,23 @@ constexpr const char* scrollScript = R"((function (down, isLoaded) {
     return isRead && root.scrollTop === before;
 })(%1, %2))";
 
+/// What the engine was told of the desktop's colours at its start it tells all pages until its end; those that the program makes are told
+/// by this, before their first picture. It runs when a document begins, which has no root yet, and on one that is shown.
+constexpr const char* colorScript = R"((function (isOwn, scheme) {
+    const show = () => document.documentElement && (document.documentElement.dataset.colorScheme = scheme);
+    if (isOwn && !show())
+        new MutationObserver((changes, observer) => show() && observer.disconnect()).observe(document, { childList: true });
+})(location.protocol === "%1:", "%2"))";
+
+bool isOwnPage(const QUrl& url) {
+    return url.scheme() == QLatin1String(PageScheme::name);
+}
+
 } // namespace
 
 EnginePageView::EnginePageView(QWidget* parent) : _view(new EngineView(parent)), _page(&_view->enginePage()) {
-    // What shows before the first picture of the page: no white flash by dark.
-    _page->setBackgroundColor(_view->palette().color(QPalette::Base));
+    _view->installEventFilter(this);
+    showColors();
     _timeout.setSingleShot(true);
     connect(&_timeout, &QTimer::timeout, this, [this] {
         if (_page)
@@ -55,6 +71,7 @@ void EnginePageView::connectPage() {
         if (!_page->hasRefused())
             setProgress(percent / wholePercent);
     });
+    connect(_page, &QWebEnginePage::urlChanged, this, &EnginePageView::showBackground);
     connect(_page, &QWebEnginePage::titleChanged, this, [this] {
         if (_events.titleDidChange)
             _events.titleDidChange();
@@ -73,15 +90,46 @@ void EnginePageView::setEvents(Events events) {
 
 void EnginePageView::setHtml(const QByteArray& html) {
     const QUrl url = _ownPages.emplace_back(EngineProfile::shared().pages().add(html));
-    _page->setOwnAddress(url);
     _page->addOwnPage(url);
     _page->load(url);
 }
 
-void EnginePageView::load(const QUrl& url, double seconds) {
-    _page->setOwnAddress(url);
+bool EnginePageView::load(const QUrl& url, const QString& host, double seconds) {
+    if (!isNetworkAddress(url) || (isLocalHost(url.host()) && url.host() != host))
+        return false;
+    _page->addOwnAddress(url);
     _timeout.start(static_cast<int>(seconds * millisecondsPerSecond));
     _page->load(url);
+    return true;
+}
+
+bool EnginePageView::eventFilter(QObject* object, QEvent* event) {
+    if (_page && event->type() == QEvent::PaletteChange)
+        showColors();
+    return QObject::eventFilter(object, event);
+}
+
+/// For the page that is shown, which keeps its place, and for all to come.
+void EnginePageView::showColors() {
+    const QString name = QStringLiteral("colors");
+    const QString scheme = isDark(_view->palette()) ? QStringLiteral("dark") : QStringLiteral("light");
+    QWebEngineScript script;
+    script.setName(name);
+    script.setInjectionPoint(QWebEngineScript::DocumentCreation);
+    script.setWorldId(scriptWorld);
+    script.setSourceCode(QString::fromLatin1(colorScript).arg(QString::fromLatin1(PageScheme::name), scheme));
+    for (const QWebEngineScript& old : _page->scripts().find(name))
+        _page->scripts().remove(old);
+    _page->scripts().insert(script);
+    if (!_page->url().isEmpty())
+        _page->runJavaScript(script.sourceCode(), scriptWorld);
+    showBackground();
+}
+
+/// What is behind a page, and all there is before its first picture: no white flash by dark. Pages of the web count on white.
+void EnginePageView::showBackground() {
+    const bool isOfTheWeb = !_page->url().isEmpty() && !isOwnPage(_page->url());
+    _page->setBackgroundColor(isOfTheWeb ? QColor(Qt::white) : _view->palette().color(QPalette::Base));
 }
 
 void EnginePageView::reload() {

@@ -22,7 +22,7 @@ public:
     QWidget* widget() const override { return _view; }
     void setEvents(Events events) override;
     void setHtml(const QByteArray& html) override;
-    void load(const QUrl& url, double seconds) override;
+    bool load(const QUrl& url, const QString& host, double seconds) override;
     void reload() override;
     bool canGoBack() const override;
     bool canGoForward() const override;
@@ -32,8 +32,12 @@ public:
     QString title() const override;
     void scrollPage(bool down, std::function<void(bool wasAtEnd)> done) override;
 
+    bool eventFilter(QObject* object, QEvent* event) override;
+
 private:
     void connectPage();
+    void showColors();
+    void showBackground();
     void didStart();
     void didFinish(bool isLoaded);
     void setProgress(double progress);

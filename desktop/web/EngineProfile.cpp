@@ -4,6 +4,8 @@
 
 #include <QCoreApplication>
 #include <QWebEngineDownloadRequest>
+#include <QWebEngineScript>
+#include <QWebEngineScriptCollection>
 #include <QWebEngineSettings>
 #include <array>
 #include <utility>
@@ -31,6 +33,19 @@ constexpr std::array<std::pair<QWebEngineSettings::WebAttribute, bool>, 16> attr
     {QWebEngineSettings::NavigateOnDropEnabled, false},
 }};
 
+/// Takes calls between browsers from every page (WebRTC): they open connections that nothing judges, to this machine as well. It keeps off
+/// the many pages that look around by them, not one that fetches them out of a frame at the moment when it makes it: for that there is no
+/// switch.
+QWebEngineScript withoutCalls() {
+    QWebEngineScript script;
+    script.setName(QStringLiteral("without calls"));
+    script.setInjectionPoint(QWebEngineScript::DocumentCreation);
+    script.setWorldId(QWebEngineScript::MainWorld);
+    script.setRunsOnSubFrames(true);
+    script.setSourceCode(QStringLiteral("delete window.RTCPeerConnection; delete window.webkitRTCPeerConnection;"));
+    return script;
+}
+
 } // namespace
 
 EngineProfile& EngineProfile::shared() {
@@ -44,6 +59,7 @@ EngineProfile::EngineProfile(QObject* parent) : QWebEngineProfile(parent), _page
     setSpellCheckEnabled(false);
     setUrlRequestInterceptor(new RequestInterceptor(this));
     installUrlSchemeHandler(PageScheme::name, _pages);
+    scripts()->insert(withoutCalls());
     for (const auto& [attribute, isOn] : attributes)
         settings()->setAttribute(attribute, isOn);
     settings()->setUnknownUrlSchemePolicy(QWebEngineSettings::DisallowUnknownUrlSchemes);

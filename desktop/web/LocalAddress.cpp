@@ -49,6 +49,17 @@ QHostAddress carriedAddress(const QHostAddress& address) {
 
 } // namespace
 
+bool isNetworkAddress(const QUrl& url) {
+    return url.scheme() == QLatin1String("http") || url.scheme() == QLatin1String("https");
+}
+
+bool mayBeWithin(const QUrl& page, const QUrl& url) {
+    constexpr int httpPort = 80;
+    constexpr int httpsPort = 443;
+    const auto port = [](const QUrl& each) { return each.port(each.scheme() == QLatin1String("https") ? httpsPort : httpPort); };
+    return !isLocalHost(url.host()) || (page.host() == url.host() && port(page) == port(url));
+}
+
 bool isLocalHost(const QString& host) {
     QString name = host.toLower();
     while (name.endsWith(QLatin1Char('.')))

@@ -19,14 +19,6 @@ bool isKnownScheme(const QString& scheme) {
            std::any_of(known.begin(), known.end(), [&](const char* each) { return scheme == QLatin1String(each); });
 }
 
-/// Another port of the same machine is another server.
-bool isSameServer(const QUrl& one, const QUrl& other) {
-    constexpr int httpPort = 80;
-    constexpr int httpsPort = 443;
-    const auto port = [](const QUrl& url) { return url.port(url.scheme() == QLatin1String("https") ? httpsPort : httpPort); };
-    return one.host() == other.host() && port(one) == port(other);
-}
-
 } // namespace
 
 void RequestInterceptor::interceptRequest(QWebEngineUrlRequestInfo& info) {
@@ -37,7 +29,7 @@ void RequestInterceptor::interceptRequest(QWebEngineUrlRequestInfo& info) {
     if (info.resourceType() == QWebEngineUrlRequestInfo::ResourceTypeMainFrame || url.host().isEmpty() ||
         url.scheme() == QLatin1String(PageScheme::name))
         return;
-    if (isLocalHost(url.host()) && !isSameServer(info.firstPartyUrl(), url))
+    if (!mayBeWithin(info.firstPartyUrl(), url))
         info.block(true);
 }
 

@@ -1,12 +1,12 @@
 #include "desktop/web/WebPlugin.hpp"
 
+#include "desktop/toolkit/Palettes.hpp"
 #include "desktop/web/EnginePageView.hpp"
 #include "desktop/web/PageScheme.hpp"
 
 #include <QGuiApplication>
 #include <QLoggingCategory>
 #include <QOpenGLContext>
-#include <QPalette>
 
 QT_BEGIN_NAMESPACE
 Q_GUI_EXPORT void qt_gl_set_global_share_context(QOpenGLContext* context);
@@ -22,10 +22,9 @@ void addSwitch(const QByteArray& text) {
     qputenv(webEngineSwitches, (qgetenv(webEngineSwitches) + ' ' + text).trimmed());
 }
 
-/// The engine doesn't ask the desktop by itself, and takes what it is told at its start alone.
+/// The engine doesn't ask the desktop by itself, and takes what it tells pages of the web at its start alone.
 void followColorScheme() {
-    const QPalette palette = QGuiApplication::palette();
-    if (palette.color(QPalette::Window).lightness() < palette.color(QPalette::WindowText).lightness())
+    if (isDark(QGuiApplication::palette()))
         addSwitch("--force-dark-mode");
 }
 

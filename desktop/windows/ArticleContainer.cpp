@@ -16,6 +16,7 @@ ArticleContainer::ArticleContainer(QWidget* parent, std::shared_ptr<WebPluginLoa
 
 std::shared_ptr<WebView> ArticleContainer::addWebView() {
     auto made = std::make_shared<ArticleWebView>(_place, _loader);
+    made->setFeedHost(_feedHost);
     _shown = made;
     return made;
 }

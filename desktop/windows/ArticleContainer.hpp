@@ -8,6 +8,7 @@
 #include <QWidget>
 #include <functional>
 #include <memory>
+#include <utility>
 
 namespace brindle::desktop {
 
@@ -17,6 +18,8 @@ public:
     ArticleContainer(QWidget* parent, std::shared_ptr<WebPluginLoader> loader);
 
     QWidget* widget() const { return _place; }
+    /// For the views to come: see `ArticleWebView::setFeedHost`.
+    void setFeedHost(std::function<QString()> host) { _feedHost = std::move(host); }
     /// The one shown last; null when it is gone.
     std::shared_ptr<ArticleWebView> shown() const { return _shown.lock(); }
 
@@ -25,6 +28,7 @@ public:
 private:
     const QPointer<QWidget> _place;
     const std::shared_ptr<WebPluginLoader> _loader;
+    std::function<QString()> _feedHost;
     std::weak_ptr<ArticleWebView> _shown;
 };
 

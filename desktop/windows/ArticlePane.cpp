@@ -1,16 +1,19 @@
 #include "desktop/windows/ArticlePane.hpp"
 
+#include "Brindle/library/FeedItem.hpp"
+#include "Brindle/library/FeedItemArticle.hpp"
 #include "desktop/toolkit/Binders.hpp"
 #include "desktop/toolkit/Text.hpp"
 #include "desktop/windows/ElidedLabel.hpp"
+#include "desktop/windows/RoomyButton.hpp"
 #include "desktop/windows/SymbolButton.hpp"
 #include "foundation/LocalizedStrings.hpp"
 
 #include <QHBoxLayout>
 #include <QPainter>
 #include <QProgressBar>
-#include <QPushButton>
 #include <QStyle>
+#include <QUrl>
 #include <utility>
 
 namespace brindle::desktop {
@@ -46,6 +49,13 @@ QProgressBar* makeProgressBar(QWidget* parent) {
     return bar;
 }
 
+/// Empty where the feed is gone.
+QString feedHost(const FeedsBrowserArticleViewController& controller) {
+    const auto article = controller.article();
+    const auto feed = article ? article->feedItem.lock() : nullptr;
+    return feed ? QUrl(toQString(feed->url().absoluteString())).host() : QString();
+}
+
 } // namespace
 
 ArticlePane::ArticlePane(std::shared_ptr<WebPluginLoader> loader, QWidget* parent)
@@ -61,7 +71,7 @@ void ArticlePane::bind(FeedsBrowserArticleViewController& controller) {
     navigationRow->addWidget(back);
     navigationRow->addWidget(forward);
     auto* const title = new ElidedLabel(this);
-    auto* const save = new QPushButton(this);
+    auto* const save = new RoomyButton(this);
     auto* const actions = new SymbolButton("more", localized("Article actions"), this);
     QProgressBar* const progress = makeProgressBar(this);
 
@@ -78,6 +88,7 @@ void ArticlePane::bind(FeedsBrowserArticleViewController& controller) {
     column->addWidget(progress);
     column->addWidget(_container->widget(), 1);
 
+    _container->setFeedHost([&controller] { return feedHost(controller); });
     desktop::bind(controller.navigationContainerView, navigation);
     desktop::bind(controller.goBackButton, back, [&controller] { controller.goBack(); });
     desktop::bind(controller.goForwardButton, forward, [&controller] { controller.goForward(); });

@@ -26,6 +26,15 @@ protected:
     QVariant loadResource(int, const QUrl&) override { return QByteArray(""); }
 };
 
+/// Stands where the original page would.
+std::string pageOfLink(const std::string& address) {
+    return QStringLiteral("<html><head><meta charset=\"utf-8\"><style>:root[data-color-scheme=\"dark\"] { color-scheme: dark; } "
+                          "body { margin: 1.5em; font-family: sans-serif; }</style></head>"
+                          "<body><p>%1</p><p><a href=\"%2\">%2</a></p></body></html>")
+        .arg(toQString(localized("The original page can't be shown here.")).toHtmlEscaped(), toQString(address).toHtmlEscaped())
+        .toStdString();
+}
+
 } // namespace
 
 ArticleWebView::ArticleWebView(QWidget* place, std::shared_ptr<WebPluginLoader> loader)
@@ -134,12 +143,10 @@ void ArticleWebView::loadHTMLString(const std::string& html, const std::optional
 void ArticleWebView::load(const WebRequest& request) {
     if (!_holder)
         return;
-    const QString address = toQString(request.url.absoluteString());
-    if (makePage())
-        return _page->load(QUrl(address, QUrl::StrictMode), request.timeoutInterval);
-    const QString shown = address.toHtmlEscaped();
-    showText(QStringLiteral("<p>%1</p><p><a href=\"%2\">%2</a></p>")
-                 .arg(toQString(localized("The original page can't be shown here.")).toHtmlEscaped(), shown));
+    const QUrl url(toQString(request.url.absoluteString()), QUrl::StrictMode);
+    if (makePage() && _page->load(url, _feedHost ? _feedHost() : QString(), request.timeoutInterval))
+        return;
+    loadHTMLString(pageOfLink(request.url.absoluteString()), std::nullopt);
 }
 
 /// It is there at once.

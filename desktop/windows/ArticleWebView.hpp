@@ -10,11 +10,13 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <utility>
 
 namespace brindle::desktop {
 
 /// A web view in a place of a window. The engine is loaded with the first page; without the plugin, the text of a page is shown and nothing
-/// is asked of the network. When the engine's process dies, a button offers to load the page again. Thread: main.
+/// is asked of the network. A page that may not be loaded is offered as a link. When the engine's process dies, a button offers to load the
+/// page again. Thread: main.
 class ArticleWebView : public WebView {
 public:
     ArticleWebView(QWidget* place, std::shared_ptr<WebPluginLoader> loader);
@@ -24,6 +26,9 @@ public:
     WebPageView* page() const { return _page.get(); }
     /// Null unless the plugin could not be loaded.
     QTextBrowser* textBrowser() const { return _text; }
+
+    /// The host of the feed whose article is shown, empty for none: the original page may be there although it is of a private network.
+    void setFeedHost(std::function<QString()> host) { _feedHost = std::move(host); }
 
     /// Scrolls by most of what is seen; `done` is told whether the page was at its end already.
     void scrollPage(bool down, std::function<void(bool wasAtEnd)> done);
@@ -52,6 +57,7 @@ private:
 
     const QPointer<QWidget> _holder; ///< what fills the place
     const std::shared_ptr<WebPluginLoader> _loader;
+    std::function<QString()> _feedHost; ///< may be empty
     std::weak_ptr<WebViewDelegate> _delegate;
     std::unique_ptr<WebPageView> _page;
     QPointer<QTextBrowser> _text;

@@ -42,7 +42,7 @@ TEST(ArticlePageTest, ReadsTheTemplateOfTheProgram) {
     const std::string page = articlePage(articlePageTemplate(testsupport::sourceFolder() + "/resources"), "A title", "<p>Text</p>");
     EXPECT_THAT(page, HasSubstr("<h1 class=\"title\">A title</h1>"));
     EXPECT_THAT(page, HasSubstr("<article><p>Text</p></article>"));
-    EXPECT_THAT(page, HasSubstr("prefers-color-scheme: dark"));
+    EXPECT_THAT(page, HasSubstr("data-color-scheme=\"dark\""));
     EXPECT_THAT(page, Not(HasSubstr("<%")));
     EXPECT_THAT(page, Not(HasSubstr("<script")));
 }

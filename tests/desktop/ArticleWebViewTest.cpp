@@ -2,6 +2,7 @@
 #include "tests/desktop/EventLoop.hpp"
 #include "tests/desktop/PageProcesses.hpp"
 #include "tests/desktop/WebEngine.hpp"
+#include "tests/support/HTTPServer.hpp"
 #include "tests/support/TemporaryFolder.hpp"
 
 #include <QPushButton>
@@ -88,6 +89,18 @@ TEST_F(ArticleWebViewTest, OffersTheAddressOfAPageThatItCannotShow) {
     const std::string text = view->textBrowser()->toPlainText().toStdString();
     EXPECT_NE(text.find("The original page can't be shown here."), std::string::npos);
     EXPECT_NE(text.find("https://example.test/?a=1&b=2"), std::string::npos);
+}
+
+TEST_F(ArticleWebViewTest, OffersTheAddressOfAPageOfAPrivateNetwork) {
+    make(WebEngine::start()).setFeedHost([] { return QStringLiteral("example.test"); });
+    HTTPServer server;
+    server.route("/page", HTTPServer::document("<title>private</title>", "text/html"));
+    view->load({server.url("/page")});
+    EXPECT_TRUE(runEventLoop([&] { return delegate->finished == 1; }));
+    EXPECT_EQ(server.requestCount("/page"), 0U);
+    view->setFeedHost([] { return QStringLiteral("127.0.0.1"); });
+    view->load({server.url("/page")});
+    EXPECT_TRUE(runEventLoop([&] { return view->title() == "private"; }));
 }
 
 TEST_F(ArticleWebViewTest, OffersToReloadWhenTheProcessOfAPageDies) {
