@@ -78,6 +78,9 @@ void BrowserWindow::bind(
     _navigator = std::make_unique<ArticleNavigator>(environment.feedsManager, panes, *_articlesView, *_articlePane->container());
     addListKeys(panes);
     addShortcuts();
+    // The row of tools first, then from the left to the right.
+    QWidget::setTabOrder(&_toolbar->searchField(), &_feedsView->widget());
+    QWidget::setTabOrder(&_feedsView->widget(), &_articlesView->widget());
     _feedsView->widget().setFocus();
 }
 

@@ -1,5 +1,6 @@
 #include "desktop/windows/FeedsPickerTable.hpp"
 
+#include "desktop/toolkit/BoxColors.hpp"
 #include "desktop/toolkit/Text.hpp"
 #include "foundation/LocalizedStrings.hpp"
 
@@ -11,8 +12,8 @@ FeedsPickerTable::FeedsPickerTable(QWidget* parent) : _list(new QListWidget(pare
     constexpr int gap = 2; // points
     _list->setUniformItemSizes(true);
     _list->setSpacing(gap);
-    // Boxes can be told from it by dark too.
     _list->viewport()->setBackgroundRole(QPalette::Window);
+    BoxColors::apply(_list);
     _list->setTextElideMode(Qt::ElideMiddle);
     _list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     _list->setAccessibleName(toQString(localized("Feeds")));

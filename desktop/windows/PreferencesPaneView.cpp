@@ -1,7 +1,9 @@
 #include "desktop/windows/PreferencesPaneView.hpp"
 
 #include "desktop/toolkit/Binders.hpp"
+#include "desktop/toolkit/BoxColors.hpp"
 #include "desktop/toolkit/Text.hpp"
+#include "desktop/windows/RoomyButton.hpp"
 
 #include <QButtonGroup>
 #include <QCheckBox>
@@ -25,7 +27,7 @@ QAbstractButton* makeButton(Button& button, QButtonGroup& radioButtons, QWidget*
     QAbstractButton* made = nullptr;
     switch (button.kind()) {
     case Button::Kind::push:
-        made = new QPushButton(parent);
+        made = new RoomyButton(parent);
         break;
     case Button::Kind::checkBox:
         made = new QCheckBox(parent);
@@ -35,6 +37,8 @@ QAbstractButton* makeButton(Button& button, QButtonGroup& radioButtons, QWidget*
         radioButtons.addButton(made);
         break;
     }
+    if (button.kind() != Button::Kind::push)
+        BoxColors::apply(made);
     bind(button, made);
     return made;
 }

@@ -1,10 +1,13 @@
 #include "desktop/windows/QtTableView.hpp"
 
+#include "desktop/toolkit/Text.hpp"
 #include "desktop/windows/CellDelegate.hpp"
 #include "desktop/windows/TableModel.hpp"
+#include "foundation/LocalizedStrings.hpp"
 
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QPainter>
 #include <algorithm>
 #include <utility>
 
@@ -30,10 +33,10 @@ public:
     }
 };
 
-/// Says when the selection has changed, however it did, and shows whether it has the keyboard.
+/// Says when the selection has changed, however it did, and shows whether it has the keyboard, and that there is nothing in it.
 class Table : public QTableView {
 public:
-    using QTableView::QTableView;
+    Table(const QString& emptyText, QWidget* parent) : QTableView(parent), _emptyText(emptyText) {}
     std::function<void()> onSelectionChange;
 
 protected:
@@ -41,6 +44,14 @@ protected:
         QTableView::initViewItemOption(option);
         if (!hasFocus())
             CellDelegate::dimSelection(*option);
+    }
+    void paintEvent(QPaintEvent* event) override {
+        QTableView::paintEvent(event);
+        if (!model() || model()->rowCount() > 0)
+            return;
+        QPainter painter(viewport());
+        painter.setPen(palette().color(QPalette::PlaceholderText));
+        painter.drawText(viewport()->rect().adjusted(0, emptyMargin, 0, 0), Qt::AlignHCenter | Qt::AlignTop, _emptyText);
     }
     void keyPressEvent(QKeyEvent* event) override {
         const bool isArrow = event->key() == Qt::Key_Down || event->key() == Qt::Key_Up;
@@ -55,12 +66,16 @@ protected:
         if (onSelectionChange)
             onSelectionChange();
     }
+
+private:
+    static constexpr int emptyMargin = 24; // points
+    const QString _emptyText;
 };
 
 } // namespace
 
 QtTableView::QtTableView(QWidget* parent, const QString& accessibleName, std::vector<Column> columns)
-    : _table(new Table(parent)), _model(new TableModel(identifiers(columns), _table)) {
+    : _table(new Table(toQString(localized("noArticlesMenuItem")), parent)), _model(new TableModel(identifiers(columns), _table)) {
     _table->setModel(_model);
     _table->setAccessibleName(accessibleName);
     _table->setItemDelegate(new RowDelegate(_table));

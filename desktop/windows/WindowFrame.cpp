@@ -16,6 +16,7 @@ namespace {
 
 constexpr qsizetype numberCount = 4;
 constexpr int largestSide = 32'767; // what X11 has for a window's side
+constexpr int titleHeight = 20;     // of the narrower ones
 constexpr int leastVisible = 40;    // so much of a frame, across and down, is enough to take hold of it
 const QLatin1String maximizedMark("maximized");
 
@@ -50,6 +51,14 @@ std::optional<QRect> frameOf(const QStringList& words) {
     return frame.isEmpty() || !isOnScreen(frame) ? std::nullopt : std::optional(fittedToScreens(frame));
 }
 
+/// Leaves room for a title, by which a window is moved: a desktop that tells nobody where windows stand has them all in its corner.
+QRect withRoomForTitle(QRect frame) {
+    const QScreen* const screen = QGuiApplication::screenAt(frame.center());
+    if (screen)
+        frame.moveTop(std::max(frame.top(), screen->availableGeometry().top() + titleHeight));
+    return frame;
+}
+
 } // namespace
 
 QRect fitted(QRect frame, const QRect& room) {
@@ -77,7 +86,7 @@ bool WindowFrame::restore(QWidget& window) const {
     const auto frame = frameOf(words);
     if (!frame)
         return false;
-    window.setGeometry(*frame);
+    window.setGeometry(withRoomForTitle(*frame));
     window.setWindowState(words.mid(numberCount).contains(maximizedMark) ? Qt::WindowMaximized : Qt::WindowNoState);
     return true;
 }

@@ -1,14 +1,11 @@
 #include "tests/desktop/BrowserWindowFixture.hpp"
 
 #include "desktop/toolkit/MenuView.hpp"
-#include "tests/desktop/WebEngine.hpp"
 
 #include <QApplication>
 #include <QContextMenuEvent>
-#include <QKeyEvent>
 #include <QSplitter>
 #include <QToolButton>
-#include <algorithm>
 
 namespace brindle::desktop {
 
@@ -24,20 +21,6 @@ TEST_F(BrowserWindowTest, ShowsTheSectionsAndTheFeeds) {
     EXPECT_THAT(feedRows(), ElementsAre("Collections", "Today", "Unread Articles", "Saved Articles", "Feeds", "Alpha", "Beta"));
 }
 
-TEST_F(BrowserWindowTest, ArrowsGoThroughTheFeedsPastTheHeaders) {
-    setCollectionsOff();
-    add(makeItem("Alpha", {"a"}));
-    add(makeItem("Beta", {"b"}));
-    show();
-    QTest::keyClick(&feeds(), Qt::Key_Down);
-    EXPECT_EQ(selectedFeedRow(), "Alpha");
-    QTest::keyClick(&feeds(), Qt::Key_Down);
-    EXPECT_EQ(selectedFeedRow(), "Beta");
-    EXPECT_THAT(listedTitles(), ElementsAre("b"));
-    QTest::keyClick(&feeds(), Qt::Key_Up);
-    EXPECT_EQ(selectedFeedRow(), "Alpha");
-}
-
 TEST_F(BrowserWindowTest, AnArticleThatIsSelectedIsShownAndRead) {
     const auto item = add(makeItem("Alpha", {"one", "two"}));
     show();
@@ -47,37 +30,6 @@ TEST_F(BrowserWindowTest, AnArticleThatIsSelectedIsShownAndRead) {
     EXPECT_EQ(shownTitle(), "one");
     EXPECT_TRUE(item->articles().front()->entry->isRead());
     EXPECT_FALSE(item->articles().back()->entry->isRead());
-}
-
-TEST_F(BrowserWindowTest, ReturnOpensTheArticleInTheWebBrowser) {
-    const auto item = add(makeItem("Alpha", {"one"}));
-    show();
-    select(item);
-    QTest::keyClick(&articles(), Qt::Key_Down);
-    takeCalls();
-    QTest::keyClick(&articles(), Qt::Key_Return);
-    EXPECT_THAT(takeCalls(), ElementsAre("openURL http://a.test/one"));
-}
-
-TEST_F(BrowserWindowTest, ReturnEditsTheFeed) {
-    const auto item = add(makeItem("Alpha"));
-    show();
-    select(item);
-    takeCalls();
-    QTest::keyClick(&feeds(), Qt::Key_Return);
-    EXPECT_THAT(takeCalls(), ElementsAre("editFeedItem Alpha"));
-}
-
-TEST_F(BrowserWindowTest, DeleteAsksAndRemovesTheFeed) {
-    const auto item = add(makeItem("Alpha"));
-    add(makeItem("Beta"));
-    show();
-    select(item);
-    QTest::keyClick(&feeds(), Qt::Key_Delete);
-    ASSERT_EQ(alerts->alerts.size(), 1U);
-    EXPECT_THAT(names(manager->feeds), ElementsAre("Beta"));
-    EXPECT_THAT(feedRows(), ElementsAre("Collections", "Today", "Unread Articles", "Saved Articles", "Feeds", "Beta"));
-    EXPECT_EQ(selectedFeedRow(), "");
 }
 
 TEST_F(BrowserWindowTest, TheMenuKeyOffersWhatCanBeDoneWithTheFeed) {
@@ -134,166 +86,6 @@ TEST_F(BrowserWindowTest, AFeedIsRevealedWhereTheFeedsAreClosed) {
     EXPECT_EQ(selectedFeedRow(), "Alpha");
 }
 
-TEST_F(BrowserWindowTest, DeleteWithoutASelectedFeedDoesNothing) {
-    add(makeItem("Alpha"));
-    show();
-    QTest::keyClick(&feeds(), Qt::Key_Delete);
-    EXPECT_THAT(alerts->alerts, IsEmpty());
-}
-
-TEST_F(BrowserWindowTest, NGoesToTheNextUnreadArticleBelowThenFromTheTop) {
-    const auto item = add(makeItem("Alpha", {"one", "two", "three"}));
-    item->articles()[1]->entry->setState(SyndicatedEntry::State::read);
-    show();
-    select(item);
-    made.window->articlesView()->selectRow(1);
-    QTest::keyClick(&articles(), Qt::Key_N);
-    EXPECT_EQ(shownTitle(), "three");
-    QTest::keyClick(&feeds(), Qt::Key_N);
-    EXPECT_EQ(shownTitle(), "one");
-}
-
-TEST_F(BrowserWindowTest, NGoesOnToTheNextFeedWithUnreadArticles) {
-    const auto first = add(makeItem("Alpha", {"one"}));
-    add(makeItem("Empty"));
-    const auto group = add(FeedGroup::make("Group"));
-    add(makeItem("Inner", {"inner"}), group);
-    show();
-    select(first);
-    QTest::keyClick(&feeds(), Qt::Key_N);
-    QTest::keyClick(&feeds(), Qt::Key_N);
-    EXPECT_EQ(selectedFeedRow(), "Inner");
-    EXPECT_THAT(listedTitles(), ElementsAre("inner"));
-    EXPECT_EQ(shownTitle(), "inner");
-}
-
-TEST_F(BrowserWindowTest, SpaceAtTheEndOfAnArticleGoesToTheNextUnreadOne) {
-    const auto item = add(makeItem("Alpha", {"one", "two"}));
-    show();
-    select(item);
-    QTest::keyClick(&articles(), Qt::Key_Space);
-    EXPECT_EQ(shownTitle(), "one");
-    QTest::keyClick(&articles(), Qt::Key_Space);
-    EXPECT_EQ(shownTitle(), "two");
-}
-
-TEST_F(BrowserWindowTest, SpacesPassOverNoArticleWhosePageIsStillToCome) {
-    const auto item = add(makeItem("Alpha", {"one", "two", "three"}));
-    show(WebEngine::start());
-    select(item);
-    for (int i = 0; i < 3; ++i)
-        QTest::keyClick(&articles(), Qt::Key_Space);
-    bool hasAnswered = false;
-    made.window->articlePane().container()->shown()->scrollPage(false, [&](bool) { hasAnswered = true; });
-    ASSERT_TRUE(runEventLoop([&] { return hasAnswered; }));
-    EXPECT_EQ(shownTitle(), "one");
-    EXPECT_FALSE(item->articles()[1]->entry->isRead());
-}
-
-TEST_F(BrowserWindowTest, SpaceThatIsHeldDownGoesToOneArticleAlone) {
-    const auto item = add(makeItem("Alpha", {"one", "two"}));
-    show();
-    select(item);
-    QTest::keyPress(&articles(), Qt::Key_Space);
-    for (int i = 0; i < 3; ++i) {
-        QKeyEvent repeated(QEvent::KeyPress, Qt::Key_Space, Qt::NoModifier, QStringLiteral(" "), true);
-        QApplication::sendEvent(&articles(), &repeated);
-    }
-    EXPECT_EQ(shownTitle(), "one");
-}
-
-TEST_F(BrowserWindowTest, WhoReadsInTheArticleGoesOnReadingInTheNextOne) {
-    const auto item = add(makeItem("Alpha", {"one", "two"}));
-    show();
-    select(item);
-    made.window->articlesView()->selectRow(0);
-    made.window->articlePane().container()->shown()->textBrowser()->setFocus();
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_N);
-    EXPECT_EQ(shownTitle(), "two");
-    EXPECT_EQ(QApplication::focusWidget(), made.window->articlePane().container()->shown()->textBrowser());
-}
-
-TEST_F(BrowserWindowTest, TabGoesFromTheFeedsToTheArticles) {
-    show();
-    QTest::keyClick(&feeds(), Qt::Key_Tab);
-    EXPECT_TRUE(articles().hasFocus());
-    QTest::keyClick(&articles(), Qt::Key_Backtab);
-    EXPECT_TRUE(feeds().hasFocus());
-}
-
-TEST_F(BrowserWindowTest, WhatIsTypedIntoTheSearchFieldIsSearchedAndHidesTheFeeds) {
-    add(makeItem("Alpha", {"needle one", "hay"}));
-    add(makeItem("Beta", {"Needle two"}));
-    show();
-    QTest::keyClick(&feeds(), Qt::Key_F, Qt::ControlModifier);
-    ASSERT_TRUE(searchField().hasFocus());
-    QTest::keyClicks(&searchField(), "needle");
-    EXPECT_THAT(listedTitles(), ElementsAre("needle one", "Needle two"));
-    EXPECT_FALSE(feeds().isVisible());
-}
-
-TEST_F(BrowserWindowTest, EscapeEndsTheSearch) {
-    add(makeItem("Alpha", {"needle"}));
-    show();
-    QTest::keyClick(&feeds(), Qt::Key_F, Qt::ControlModifier);
-    QTest::keyClicks(&searchField(), "needle");
-    QTest::keyClick(&searchField(), Qt::Key_Escape);
-    EXPECT_EQ(made.controller->searchField.stringValue(), "");
-    EXPECT_TRUE(feeds().isVisible());
-    EXPECT_TRUE(articles().hasFocus());
-}
-
-TEST_F(BrowserWindowTest, ASearchLeavesNothingSelected) {
-    const auto item = add(makeItem("Alpha", {"needle"}));
-    show();
-    select(item);
-    made.window->articlesView()->selectRow(0);
-    searchField().setFocus();
-    QTest::keyClicks(&searchField(), "n");
-    EXPECT_EQ(shownTitle(), "");
-    QTest::keyClick(&searchField(), Qt::Key_Return);
-    QTest::keyClick(&articles(), Qt::Key_Down);
-    EXPECT_EQ(shownTitle(), "needle");
-}
-
-TEST_F(BrowserWindowTest, ReturnInTheSearchFieldGoesToWhatWasFound) {
-    add(makeItem("Alpha", {"needle"}));
-    show();
-    searchField().setFocus();
-    QTest::keyClicks(&searchField(), "needle");
-    QTest::keyClick(&searchField(), Qt::Key_Return);
-    EXPECT_TRUE(articles().hasFocus());
-    EXPECT_THAT(listedTitles(), ElementsAre("needle"));
-}
-
-TEST_F(BrowserWindowTest, ALetterThatIsTypedIntoTheSearchFieldIsNoCommand) {
-    const auto item = add(makeItem("Alpha", {"one"}));
-    show();
-    select(item);
-    searchField().setFocus();
-    QTest::keyClick(&searchField(), Qt::Key_N);
-    EXPECT_EQ(searchField().text(), "n");
-    EXPECT_EQ(shownTitle(), "");
-}
-
-TEST_F(BrowserWindowTest, KeysSendTheActionsOfTheApplication) {
-    show();
-    application->log.clear();
-    QTest::keyClick(&feeds(), Qt::Key_N, Qt::ControlModifier);
-    QTest::keyClick(&feeds(), Qt::Key_Comma, Qt::ControlModifier);
-    QTest::keyClick(&feeds(), Qt::Key_F5);
-    QTest::keyClick(&feeds(), Qt::Key_Q, Qt::ControlModifier);
-    EXPECT_THAT(application->log, ElementsAre("newFeed:", "showPreferences:", "handleUpdateAll:", "handleQuit:"));
-}
-
-TEST_F(BrowserWindowTest, ControlWClosesTheWindowAndAnotherShowBringsItBack) {
-    show();
-    QTest::keyClick(&feeds(), Qt::Key_W, Qt::ControlModifier);
-    EXPECT_FALSE(made.controller->isWindowVisible());
-    made.controller->showWindow();
-    EXPECT_TRUE(made.controller->isWindowVisible());
-}
-
 TEST_F(BrowserWindowTest, PanesReachEachOtherWhileAnotherWindowHasTheKeyboard) {
     const auto item = add(makeItem("Alpha", {"one"}));
     made = makeFeedsBrowserWindow(windows, std::make_shared<WebPluginLoader>(folder / "none.so"), statusMenu, environment);
@@ -306,17 +98,64 @@ TEST_F(BrowserWindowTest, PanesReachEachOtherWhileAnotherWindowHasTheKeyboard) {
 TEST_F(BrowserWindowTest, TheRemoveButtonFollowsTheSelection) {
     const auto item = add(makeItem("Alpha"));
     show();
-    const auto buttons = made.window->toolbar().findChildren<QToolButton*>();
-    const auto found =
-        std::find_if(buttons.begin(), buttons.end(), [](const auto* each) { return each->accessibleName() == "Remove Feed"; });
-    ASSERT_NE(found, buttons.end());
-    QToolButton* const remove = *found;
-    EXPECT_FALSE(remove->isEnabled());
+    QToolButton& remove = button<QToolButton>("Remove Feed");
+    EXPECT_FALSE(remove.isEnabled());
     select(item);
-    EXPECT_TRUE(remove->isEnabled());
-    remove->click();
+    EXPECT_TRUE(remove.isEnabled());
+    remove.click();
     EXPECT_THAT(manager->feeds, IsEmpty());
-    EXPECT_FALSE(remove->isEnabled());
+    EXPECT_THAT(alerts->alerts, IsEmpty());
+    EXPECT_FALSE(remove.isEnabled());
+}
+
+TEST_F(BrowserWindowTest, TheAddButtonOffersWhatCanBeAddedThenImportAndExport) {
+    show();
+    QToolButton& add = button<QToolButton>("Add");
+    EXPECT_THAT(menuTexts(add), ElementsAre("Add Feed", "Add Group", "Add Separator", "-", "Import Feeds...", "Export Feeds..."));
+    application->log.clear();
+    for (QAction* const action : add.menu()->actions())
+        action->trigger();
+    EXPECT_THAT(application->log, ElementsAre("newFeed:", "newGroup:", "newSeparator:", "importOPML:", "exportOPML:"));
+}
+
+TEST_F(BrowserWindowTest, ADoubleClickOnASeparatorDoesNothing) {
+    const auto item = add(makeItem("Alpha"));
+    const auto separator = add(FeedSeparator::make());
+    show();
+    takeCalls();
+    QTest::mouseDClick(feeds().viewport(), Qt::LeftButton, {}, rectOf(separator).center());
+    EXPECT_THAT(takeCalls(), IsEmpty());
+    QTest::mouseDClick(feeds().viewport(), Qt::LeftButton, {}, rectOf(item).center());
+    EXPECT_THAT(takeCalls(), ElementsAre("editFeedItem Alpha"));
+}
+
+TEST_F(BrowserWindowTest, ACollectionTakesNoDrop) {
+    const auto item = add(makeItem("Alpha"));
+    show();
+    for (const char* const name : {"Collections", "Today", "Unread Articles", "Saved Articles"})
+        EXPECT_EQ(drop(item, rectOf(name).center()), "") << name;
+    EXPECT_EQ(drop(item, rectOf("Feeds").center()), "Feeds -1");
+}
+
+TEST_F(BrowserWindowTest, AGroupIsDroppedIntoNoneOfItsOwn) {
+    const auto outer = add(FeedGroup::make("Outer"));
+    const auto inner = add(FeedGroup::make("Inner"), outer);
+    const auto innermost = add(FeedGroup::make("Innermost"), inner);
+    const auto item = add(makeItem("Alpha"), innermost);
+    show();
+    select(item);
+    for (const auto& group : {outer, inner, innermost})
+        EXPECT_EQ(drop(outer, rectOf(group).center()), "") << group->name();
+    EXPECT_EQ(drop(innermost, rectOf(outer).center()), "Outer -1");
+}
+
+TEST_F(BrowserWindowTest, ASeparatorIsDraggedLikeAFeed) {
+    const auto separator = add(FeedSeparator::make());
+    const auto item = add(makeItem("Alpha"));
+    show();
+    EXPECT_LT(rectOf(separator).height(), rectOf(item).height() / 2);
+    EXPECT_EQ(drop(separator, rectOf(item).bottomLeft() + QPoint(20, -1)), "Feeds 2");
+    EXPECT_EQ(drop(item, rectOf(separator).topLeft() + QPoint(20, 0)), "Feeds 0");
 }
 
 TEST_F(BrowserWindowTest, TheStatusMenuIsShownOnlyWhereTheDesktopHasNoPlaceForIt) {
@@ -339,33 +178,6 @@ TEST_F(BrowserWindowTest, TheWidthsOfThePanesComeBack) {
     made = {};
     show();
     EXPECT_EQ(made.window->splitter().sizes(), sizes);
-}
-
-TEST_F(BrowserWindowTest, TheWidthsThatArePulledDuringASearchComeBack) {
-    show();
-    QTest::keyClick(&feeds(), Qt::Key_F, Qt::ControlModifier);
-    QTest::keyClicks(&searchField(), "needle");
-    ASSERT_FALSE(feeds().isVisible());
-    QSplitter& splitter = made.window->splitter();
-    splitter.setSizes({0, 500, 400});
-    emit splitter.splitterMoved(500, 2);
-    const int articlesWidth = splitter.sizes()[1];
-    made = {};
-    const std::string key = "NSSplitView Subview Frames " + std::string(FeedsBrowserWindowController::frameAutosaveName);
-    const QStringList widths = QString::fromStdString(defaults->stringForKey(key).value_or("")).split(QLatin1Char(' '));
-    ASSERT_EQ(widths.size(), 3);
-    EXPECT_GT(widths[0].toInt(), 0);
-    EXPECT_EQ(widths[1].toInt(), articlesWidth);
-}
-
-TEST_F(BrowserWindowTest, EveryControlHasANameForAScreenReader) {
-    show();
-    for (const QWidget* widget : made.window->widget().findChildren<QWidget*>()) {
-        if (widget->focusPolicy() == Qt::NoFocus || !widget->isVisible())
-            continue;
-        const auto* const button = qobject_cast<const QAbstractButton*>(widget);
-        EXPECT_FALSE(widget->accessibleName().isEmpty() && (!button || button->text().isEmpty())) << widget->metaObject()->className();
-    }
 }
 
 } // namespace

@@ -1,3 +1,5 @@
+#include "desktop/windows/MediaPlayerView.hpp"
+
 #include "desktop/windows/Dialogs.hpp"
 #include "tests/desktop/DialogFixture.hpp"
 #include "tests/support/HTTPServer.hpp"
@@ -91,6 +93,48 @@ TEST_F(MediaPlayerViewTest, StartsAgainWhatIsPlaying) {
     play(server.origin() + "/talk.wav");
     EXPECT_TRUE(waitUntil([&] { return isPlaying() && shown.findChild<QToolButton*>()->isEnabled(); }));
     EXPECT_TRUE(alerts->alerts.empty());
+}
+
+TEST_F(MediaPlayerViewTest, PlaysAnotherEnclosureInTheSameWindow) {
+    server.route("/long.wav", HTTPServer::document(silence(60), "audio/x-wav"));
+    server.route("/short.wav", HTTPServer::document(silence(30), "audio/x-wav"));
+    QMainWindow& shown = play(server.origin() + "/long.wav", "First");
+    QSlider& position = find<QSlider>(shown, "Position");
+    ASSERT_TRUE(waitUntil([&] { return position.maximum() == 60; }));
+    EXPECT_EQ(&play(server.origin() + "/short.wav", "Second"), &shown);
+    EXPECT_TRUE(waitUntil([&] { return position.maximum() == 30 && shown.findChild<QToolButton*>()->accessibleName() == "Pause"; }));
+    EXPECT_EQ(window("First"), nullptr);
+    EXPECT_TRUE(alerts->alerts.empty());
+}
+
+TEST_F(MediaPlayerViewTest, IsAsLoudAsItIsSetTo) {
+    QWidget parent;
+    MediaPlayerView view(&parent);
+    parent.show();
+    view.setPlayer(view.makePlayer(server.url("/talk.wav")));
+    const QAudioOutput& audio = view.shownPlayer()->audio();
+    EXPECT_EQ(audio.volume(), 1.0F);
+    QSlider& volume = find<QSlider>(parent, "Volume");
+    volume.setValue(volume.maximum() / 2);
+    EXPECT_GT(audio.volume(), 0.0F);
+    EXPECT_LT(audio.volume(), 0.5F); // half as loud to an ear
+    volume.setValue(0);
+    EXPECT_EQ(audio.volume(), 0.0F);
+}
+
+TEST_F(MediaPlayerViewTest, IsSilentWhileItIsMuted) {
+    QWidget parent;
+    MediaPlayerView view(&parent);
+    parent.show();
+    view.setPlayer(view.makePlayer(server.url("/talk.wav")));
+    QToolButton& mute = find<QToolButton>(parent, "Mute");
+    QTest::keyClick(&mute, Qt::Key_Space);
+    EXPECT_TRUE(view.shownPlayer()->audio().isMuted());
+    // What is played next is as silent.
+    view.setPlayer(view.makePlayer(server.url("/other.wav")));
+    EXPECT_TRUE(view.shownPlayer()->audio().isMuted());
+    QTest::keyClick(&mute, Qt::Key_Space);
+    EXPECT_FALSE(view.shownPlayer()->audio().isMuted());
 }
 
 TEST_F(MediaPlayerViewTest, TellsNoFailureOfWhatWasReplaced) {

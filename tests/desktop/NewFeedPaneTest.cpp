@@ -100,6 +100,25 @@ TEST_F(NewFeedPaneTest, ShowsASignAfterAFailureAndStays) {
         EXPECT_FALSE(bar->isVisible());
 }
 
+TEST_F(NewFeedPaneTest, ASecondOKWhileItWaitsStartsAgain) {
+    HTTPServer::Response silent = HTTPServer::document("<rss><channel><title>late</title></channel></rss>");
+    silent.fault = HTTPServer::Response::Fault::hang;
+    server.route("/slow", silent);
+    QMainWindow& dialog = newFeed();
+    QLineEdit& address = find<QLineEdit>(dialog, "Address:");
+    typeAddress(dialog, server.origin() + "/slow");
+    QTest::keyClick(&address, Qt::Key_Return);
+    ASSERT_TRUE(waitUntil([&] { return server.requestCount("/slow") == 1; }));
+    address.clear();
+    typeAddress(dialog, server.origin() + "/a");
+    QTest::keyClick(&address, Qt::Key_Return);
+    ASSERT_TRUE(isGone("New Feed"));
+    server.release();
+    ASSERT_EQ(feedsManager().feeds.size(), 1U);
+    EXPECT_EQ(std::dynamic_pointer_cast<FeedItem>(feedsManager().feeds[0])->url(), server.url("/a"));
+    EXPECT_TRUE(alerts->alerts.empty());
+}
+
 TEST_F(NewFeedPaneTest, ForgetsWhatWasTypedBefore) {
     typeAddress(newFeed(), "half");
     QTest::keyClick(window("New Feed")->focusWidget(), Qt::Key_Escape);

@@ -1,3 +1,4 @@
+#include "desktop/system/ColorScheme.hpp"
 #include "tests/desktop/DialogFixture.hpp"
 #include "tests/fakes/SpeechFake.hpp"
 
@@ -8,6 +9,8 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTabBar>
+#include <cstdlib>
+#include <set>
 
 namespace brindle::desktop {
 
@@ -149,6 +152,47 @@ TEST_F(PreferencesPaneViewTest, ComesBackWithTheTabThatWasSelectedLast) {
     QTest::keyClick(&shown, Qt::Key_Escape);
     EXPECT_FALSE(shown.isVisible());
     EXPECT_EQ(tabs(open("Collections")).currentIndex(), 4);
+}
+
+TEST_F(PreferencesPaneViewTest, ShowsTheFirstTabWhereTheLastOneIsGone) {
+    set(preference::lastSelectedPrefsPanel, std::string("plugins"));
+    EXPECT_EQ(tabs(open("General")).currentIndex(), 0);
+}
+
+TEST_F(PreferencesPaneViewTest, BringsTheMenuUpToDateWhenItCloses) {
+    QMainWindow& shown = open();
+    RunLoop::main().runPending();
+    takeCalls();
+    QTest::keyClick(&shown, Qt::Key_Escape);
+    RunLoop::main().runPending();
+    EXPECT_THAT(takeCalls(), ::testing::Contains("Building Menu..."));
+}
+
+TEST_F(PreferencesPaneViewTest, StaysAtItsTopEdgeWhenItsHeightChanges) {
+    QMainWindow& shown = open();
+    std::set<int> heights;
+    const int top = shown.frameGeometry().top();
+    for (int tab = 0; tab < tabs(shown).count(); ++tab) {
+        tabs(shown).setCurrentIndex(tab);
+        QCoreApplication::processEvents();
+        heights.insert(shown.height());
+        EXPECT_EQ(shown.frameGeometry().top(), top) << tab;
+    }
+    EXPECT_GT(heights.size(), 3U);
+}
+
+TEST_F(PreferencesPaneViewTest, ShowsBoxesThatAreSeenByDark) {
+    QMainWindow& shown = open();
+    const auto contrast = [&] {
+        const QPalette palette = find<QCheckBox>(shown, "Open Brindle at login").palette();
+        return std::abs(palette.color(QPalette::Base).lightness() - palette.color(QPalette::Window).lightness());
+    };
+    const QPalette before = QApplication::palette();
+    const int byLight = contrast();
+    QApplication::setPalette(ColorScheme::darkPalette());
+    EXPECT_TRUE(waitUntil([&] { return contrast() > 30; }));
+    QApplication::setPalette(before);
+    EXPECT_TRUE(waitUntil([&] { return contrast() == byLight; }));
 }
 
 TEST_F(PreferencesPaneViewTest, GoesByTabFromTheTabsThroughTheControls) {

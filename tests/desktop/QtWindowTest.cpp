@@ -137,6 +137,15 @@ TEST_F(QtWindowTest, TheFrameIsKeptAndComesBack) {
     EXPECT_EQ(window->widget().geometry(), QRect(40, 50, 410, 320));
 }
 
+TEST_F(QtWindowTest, AFrameInTheCornerOfTheScreenLeavesRoomForATitle) {
+    const auto window = make();
+    defaults->set("NSWindow Frame Name", std::string("0 0 400 300"));
+    window->setFrameUsingName("Name");
+    EXPECT_EQ(window->widget().geometry().left(), 0);
+    EXPECT_GE(window->widget().geometry().top(), window->widget().screen()->availableGeometry().top() + 20);
+    EXPECT_EQ(window->widget().size(), QSize(400, 300));
+}
+
 TEST_F(QtWindowTest, AFrameThatNoScreenShowsIsNotTaken) {
     const auto window = make();
     window->widget().resize(300, 200);
