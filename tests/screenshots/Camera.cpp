@@ -2,11 +2,9 @@
 
 #include "desktop/toolkit/Text.hpp"
 
-#include <QApplication>
 #include <QEventLoop>
 #include <QPixmap>
 #include <QTimer>
-#include <QWidget>
 #include <iostream>
 
 namespace brindle::desktop {
@@ -26,18 +24,14 @@ QWidget* Camera::windowWithTitle(const std::string& title) {
     return nullptr;
 }
 
-QWidget* Camera::window() {
-    for (QWidget* const window : QApplication::topLevelWidgets()) {
-        if (window->isVisible())
-            return window;
-    }
-    return nullptr;
-}
-
 bool Camera::take(QWidget& window, const std::string& name) const {
     settle();
+    return save(window.grab().toImage(), name);
+}
+
+bool Camera::save(const QImage& picture, const std::string& name) const {
     const std::filesystem::path file = _folder / (name + ".png");
-    const bool isSaved = window.grab().save(toQString(file.string()));
+    const bool isSaved = picture.save(toQString(file.string()));
     if (!isSaved)
         std::cerr << "could not write " << file << '\n';
     return isSaved;

@@ -5,6 +5,7 @@
 #include "Brindle/library/PreferenceKeys.hpp"
 #include "desktop/system/QtAlertPresenter.hpp"
 #include "desktop/system/QtApplication.hpp"
+#include "desktop/system/QtFilePanels.hpp"
 #include "desktop/system/QtImageDecoder.hpp"
 #include "desktop/windows/Dialogs.hpp"
 #include "desktop/windows/QtWindowFactory.hpp"
@@ -13,7 +14,6 @@
 #include "tests/fakes/ClockFake.hpp"
 #include "tests/fakes/DistributedNotificationCenterFake.hpp"
 #include "tests/fakes/DockTileFake.hpp"
-#include "tests/fakes/FilePanelsFake.hpp"
 #include "tests/fakes/LaunchServicesFake.hpp"
 #include "tests/fakes/LoginItemFake.hpp"
 #include "tests/fakes/RunningApplicationsFake.hpp"
@@ -53,7 +53,7 @@ SampleApplication::SampleApplication(const std::filesystem::path& resources) : _
     _environment.defaults = std::make_shared<UserDefaults>(_folder / "Preferences.plist");
     _environment.application = std::make_shared<QtApplication>();
     _environment.alerts = alerts;
-    _environment.panels = std::make_shared<FilePanelsFake>();
+    _environment.panels = std::make_shared<QtFilePanels>();
     _environment.statusItem = _statusItem;
     _environment.dockTile = std::make_shared<DockTileFake>();
     _environment.previews = makeArticlePreviewFactory(_environment.defaults);

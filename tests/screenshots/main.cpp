@@ -1,6 +1,9 @@
+#include "Brindle/browser/BrowserActions.hpp"
+#include "Brindle/browser/FeedsBrowserWindowController.hpp"
 #include "Brindle/menu/MenuActions.hpp"
 #include "Brindle/shell/FeedsPickerViewController.hpp"
 #include "desktop/system/ColorScheme.hpp"
+#include "desktop/system/StatusIcon.hpp"
 #include "desktop/toolkit/MenuView.hpp"
 #include "desktop/toolkit/Text.hpp"
 #include "foundation/Console.hpp"
@@ -10,14 +13,19 @@
 #include "tests/screenshots/Camera.hpp"
 #include "tests/screenshots/SampleApplication.hpp"
 
+#include <QAbstractButton>
 #include <QApplication>
-#include <QComboBox>
+#include <QFileDialog>
 #include <QLibraryInfo>
 #include <QLineEdit>
+#include <QMessageBox>
+#include <QPainter>
 #include <QTableView>
 #include <QTranslator>
 #include <QTreeView>
 #include <iostream>
+#include <utility>
+#include <vector>
 
 /// Takes pictures of all windows over the sample feeds.
 ///
@@ -28,7 +36,8 @@ namespace {
 /// The tour of the program, window by window.
 class Tour {
 public:
-    Tour(const std::filesystem::path& folder, const std::filesystem::path& resources) : _camera(folder), _application(resources) {}
+    Tour(const std::filesystem::path& folder, const std::filesystem::path& resources, const QPalette& lightPalette)
+        : _camera(folder), _lightPalette(lightPalette), _application(resources) {}
 
     /// False where a picture is missing.
     bool run() {
@@ -40,7 +49,9 @@ public:
         takePicker();
         takePreferences();
         takePlayer();
+        takePanels();
         takeAlerts();
+        takeStatusIcons();
         return _isWhole;
     }
 
@@ -51,19 +62,23 @@ private:
     std::shared_ptr<FeedItem> feed(std::size_t place) {
         return std::dynamic_pointer_cast<FeedItem>(_application.delegate().feedsManager()->feeds.at(place));
     }
-    void take(QWidget* window, const std::string& name) {
-        if (!window)
-            std::cerr << "no window for " << name << '\n';
-        _isWhole = window && _camera.take(*window, name) && _isWhole;
+    void fail(const std::string& message) {
+        std::cerr << message << '\n';
+        _isWhole = false;
     }
-    /// The window with that title, which is closed afterwards.
-    void takeTitled(const std::string& title, const std::string& name) {
-        QWidget* const window = Camera::windowWithTitle(title);
+    void take(QWidget* window, const std::string& name) {
+        if (!window || !window->isVisible())
+            fail("no window for " + name);
+        else
+            _isWhole = _camera.take(*window, name) && _isWhole;
+    }
+    void takeAndClose(QWidget* window, const std::string& name) {
         take(window, name);
         if (window)
             window->close();
         Camera::settle();
     }
+    void takeTitled(const std::string& title, const std::string& name) { takeAndClose(Camera::windowWithTitle(title), name); }
 
     void takeSplash() {
         const auto splash = _application.windows().makeSplashWindow();
@@ -74,9 +89,9 @@ private:
     void takeBrowser() {
         perform(actions::showFeedsBrowser);
         Camera::settle();
-        QWidget* const window = Camera::window();
+        QWidget* const window = Camera::windowWithTitle(std::string(FeedsBrowserWindowController::windowTitle));
         if (!window)
-            return take(window, "browser");
+            return fail("no window for browser");
         window->resize(1000, 640);
         auto* const feeds = window->findChild<QTreeView*>();
         feeds->expandAll();
@@ -91,13 +106,25 @@ private:
         for (int pause = 0; pause < 5; ++pause)
             Camera::settle(); // the engine starts
         take(window, "browser");
-        window->close();
-        perform(actions::showArticle, feed(4)->articles().front());
+        takeOtherColors(*window);
+        auto* const search = window->findChild<QLineEdit*>();
+        search->setText(QStringLiteral("zebra"));
+        emit search->textEdited(search->text());
+        takeAndClose(window, "browser-nothing-found");
+        const auto& article = feed(4)->articles().front();
+        perform(actions::showArticle, article);
         for (int pause = 0; pause < 3; ++pause)
             Camera::settle();
-        take(Camera::window(), "article");
-        if (QWidget* const article = Camera::window())
-            article->close();
+        takeTitled(article->entry->title, "article");
+    }
+
+    /// As when the desktop goes from light to dark, or back.
+    void takeOtherColors(QWidget& window) {
+        const QPalette before = QApplication::palette();
+        QApplication::setPalette(ColorScheme::isDark(before) ? _lightPalette : ColorScheme::darkPalette());
+        take(&window, "browser-other-colors");
+        QApplication::setPalette(before);
+        Camera::settle();
     }
 
     /// The menu, the submenu of a feed, and that of its first article.
@@ -106,7 +133,7 @@ private:
         std::vector<std::unique_ptr<MenuView>> views;
         for (const char* const name : {"menu", "menu-feed", "menu-article"}) {
             if (!menu)
-                break;
+                return fail(std::string("no menu for ") + name);
             views.push_back(std::make_unique<MenuView>(menu, _application.delegate().responderChain()));
             views.back()->popup({20, 20});
             take(views.back().get(), name);
@@ -147,12 +174,14 @@ private:
         perform(actions::showPreferences);
         QWidget* const window = Camera::windowWithTitle(localized("General"));
         auto* const bar = window ? window->findChild<QTabBar*>() : nullptr;
-        for (int tab = 0; bar && tab < bar->count(); ++tab) {
+        constexpr int tabs = 6;
+        if (!bar || bar->count() != tabs)
+            return fail("the preferences have not their six tabs");
+        for (int tab = 0; tab < tabs; ++tab) {
             bar->setCurrentIndex(tab);
             take(window, "preferences-" + std::to_string(tab + 1));
         }
-        if (window)
-            window->close();
+        window->close();
     }
 
     void takePlayer() {
@@ -162,19 +191,49 @@ private:
         takeTitled("Radio", "player");
     }
 
+    void takePanels() {
+        perform(browseractions::importOPML);
+        auto* const question = Camera::window<QMessageBox>();
+        take(question, "import-question");
+        if (question)
+            question->escapeButton()->click();
+        perform(browseractions::exportOPML);
+        takeAndClose(Camera::window<QFileDialog>(), "export-panel");
+    }
+
     void takeAlerts() {
         _application.environment().alerts->runModal(
             {localized("URL cannot be empty"), localized("Please provide a valid URL of the feed.")}, {});
-        QWidget* const alert = Camera::window();
-        take(alert, "alert");
-        if (alert)
-            alert->close();
+        takeAndClose(Camera::window<QMessageBox>(), "alert");
         _application.environment().application->orderFrontStandardAboutPanel();
         Camera::settle();
-        take(Camera::window(), "about");
+        takeTitled(localized("aboutMenuTitle"), "about");
+    }
+
+    /// On a bar of the desktop: with no number, a small and a large one, and paused.
+    void takeStatusIcons() {
+        constexpr int gap = 8;
+        constexpr int row = 56;
+        const Image icon = Image::named("menu_feed");
+        const std::vector<std::pair<Image, std::string>> states = {{icon, ""}, {icon, "7"}, {icon, "128"}, {icon.slashed(), "12"}};
+        QImage picture(240, row * static_cast<int>(states.size()), QImage::Format_ARGB32_Premultiplied);
+        picture.fill(QApplication::palette().color(QPalette::Window));
+        QPainter painter(&picture);
+        int top = gap;
+        for (const auto& [image, number] : states) {
+            int left = gap;
+            for (const int side : {16, 22, 24, 32, 48}) {
+                painter.drawImage(left, top, statusicon::drawing(image, number, side));
+                left += side + gap;
+            }
+            top += row;
+        }
+        painter.end();
+        _isWhole = _camera.save(picture, "status-icons") && _isWhole;
     }
 
     const Camera _camera;
+    const QPalette _lightPalette;
     SampleApplication _application;
     bool _isWhole = true;
 };
@@ -190,6 +249,7 @@ int start(int argc, char** argv) {
     const QApplication application(argc, argv);
     QApplication::setApplicationDisplayName(QStringLiteral("Brindle"));
     QApplication::setQuitOnLastWindowClosed(false);
+    const QPalette lightPalette = QApplication::palette();
     if (argv[2] == std::string("dark"))
         QApplication::setPalette(ColorScheme::darkPalette());
     std::filesystem::create_directories(folder);
@@ -200,7 +260,7 @@ int start(int argc, char** argv) {
     if (own.load(QLocale(toQString(language)), QStringLiteral("qtbase"), QStringLiteral("_"),
             QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         QCoreApplication::installTranslator(&own);
-    return Tour(folder, resources).run() ? 0 : 1;
+    return Tour(folder, resources, lightPalette).run() ? 0 : 1;
 }
 
 } // namespace
