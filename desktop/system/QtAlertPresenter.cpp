@@ -48,9 +48,10 @@ void show(const Alert& alert, AlertPresenter::Answer answer, QWidget* window) {
     box->setInformativeText(toQString(alert.informativeText));
     const std::vector<QAbstractButton*> buttons = addButtons(*box, titles);
     QObject::connect(box, &QDialog::finished, box, [box, buttons, answer = std::move(answer)] {
-        const auto clicked = std::find(buttons.begin(), buttons.end(), box->clickedButton());
+        // Whoever closes the box by its title has clicked nothing by now.
+        QAbstractButton* const clicked = box->clickedButton() ? box->clickedButton() : box->escapeButton();
         if (answer)
-            answer(Alert::firstButtonReturn + static_cast<int>(clicked - buttons.begin()));
+            answer(Alert::firstButtonReturn + static_cast<int>(std::find(buttons.begin(), buttons.end(), clicked) - buttons.begin()));
     });
     box->show();
     box->raise();

@@ -97,6 +97,10 @@ void BrowserWindow::bindPanes(FeedsBrowserSplitViewController& panes) {
     _feedsView->widget().onMenu = [this](const QModelIndex& row, const QPoint& place) {
         showFeedMenu(_feedsView->widget().outline().item(row), place);
     };
+    _articlesView->setEmptyText([this] {
+        const bool isChosen = !_feedsView->selectedRows().empty() || !_toolbar->searchField().text().isEmpty();
+        return isChosen ? toQString(localized("noArticlesMenuItem")) : QString();
+    });
     FeedsBrowserArticleViewController& article = panes.articleViewController();
     QObject::connect(
         &_articlesView->widget(), &QTableView::doubleClicked, &_articlesView->widget(), [&article] { article.openInWebBrowser(); });

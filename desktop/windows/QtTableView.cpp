@@ -1,9 +1,7 @@
 #include "desktop/windows/QtTableView.hpp"
 
-#include "desktop/toolkit/Text.hpp"
 #include "desktop/windows/CellDelegate.hpp"
 #include "desktop/windows/TableModel.hpp"
-#include "foundation/LocalizedStrings.hpp"
 
 #include <QHeaderView>
 #include <QKeyEvent>
@@ -36,8 +34,9 @@ public:
 /// Says when the selection has changed, however it did, and shows whether it has the keyboard, and that there is nothing in it.
 class Table : public QTableView {
 public:
-    Table(const QString& emptyText, QWidget* parent) : QTableView(parent), _emptyText(emptyText) {}
+    using QTableView::QTableView;
     std::function<void()> onSelectionChange;
+    std::function<QString()> emptyText;
 
 protected:
     void initViewItemOption(QStyleOptionViewItem* option) const override {
@@ -47,11 +46,11 @@ protected:
     }
     void paintEvent(QPaintEvent* event) override {
         QTableView::paintEvent(event);
-        if (!model() || model()->rowCount() > 0)
+        if (!emptyText || !model() || model()->rowCount() > 0)
             return;
         QPainter painter(viewport());
         painter.setPen(palette().color(QPalette::PlaceholderText));
-        painter.drawText(viewport()->rect().adjusted(0, emptyMargin, 0, 0), Qt::AlignHCenter | Qt::AlignTop, _emptyText);
+        painter.drawText(viewport()->rect().adjusted(0, emptyMargin, 0, 0), Qt::AlignHCenter | Qt::AlignTop, emptyText());
     }
     void keyPressEvent(QKeyEvent* event) override {
         const bool isArrow = event->key() == Qt::Key_Down || event->key() == Qt::Key_Up;
@@ -66,16 +65,19 @@ protected:
         if (onSelectionChange)
             onSelectionChange();
     }
+    /// To the cell by which a screen reader tells what a row is.
+    QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override {
+        return QTableView::moveCursor(action, modifiers).siblingAtColumn(model()->columnCount() - 1);
+    }
 
 private:
     static constexpr int emptyMargin = 24; // points
-    const QString _emptyText;
 };
 
 } // namespace
 
 QtTableView::QtTableView(QWidget* parent, const QString& accessibleName, std::vector<Column> columns)
-    : _table(new Table(toQString(localized("noArticlesMenuItem")), parent)), _model(new TableModel(identifiers(columns), _table)) {
+    : _table(new Table(parent)), _model(new TableModel(identifiers(columns), _table)) {
     _table->setModel(_model);
     _table->setAccessibleName(accessibleName);
     _table->setItemDelegate(new RowDelegate(_table));
@@ -120,6 +122,10 @@ QtTableView::QtTableView(QWidget* parent, const QString& accessibleName, std::ve
 QtTableView::~QtTableView() {
     if (_table)
         static_cast<Table*>(_table.data())->onSelectionChange = nullptr;
+}
+
+void QtTableView::setEmptyText(std::function<QString()> text) {
+    static_cast<Table*>(_table.data())->emptyText = std::move(text);
 }
 
 void QtTableView::setDataSource(std::weak_ptr<TableViewDataSource> dataSource) {

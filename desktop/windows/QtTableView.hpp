@@ -27,6 +27,8 @@ public:
     ~QtTableView() override;
 
     QTableView& widget() const { return *_table; }
+    /// What is told where there are no rows; asked at each drawing.
+    void setEmptyText(std::function<QString()> text);
     /// Selects a row alone and scrolls to it; nothing beyond the last.
     void selectRow(std::size_t row);
     /// Without a word to the data source.

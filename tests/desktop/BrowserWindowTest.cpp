@@ -118,6 +118,20 @@ TEST_F(BrowserWindowTest, TheAddButtonOffersWhatCanBeAddedThenImportAndExport) {
     EXPECT_THAT(application->log, ElementsAre("newFeed:", "newGroup:", "newSeparator:", "importOPML:", "exportOPML:"));
 }
 
+TEST_F(BrowserWindowTest, AnEmptyListSaysSoOnceSomethingIsChosen) {
+    const auto item = add(makeItem("Alpha"));
+    show();
+    const auto isBlank = [&] {
+        const QImage picture = articles().viewport()->grab().toImage();
+        QImage blank = picture;
+        blank.fill(picture.pixelColor(0, 0));
+        return picture == blank;
+    };
+    EXPECT_TRUE(isBlank());
+    select(item);
+    EXPECT_FALSE(isBlank());
+}
+
 TEST_F(BrowserWindowTest, ADoubleClickOnASeparatorDoesNothing) {
     const auto item = add(makeItem("Alpha"));
     const auto separator = add(FeedSeparator::make());

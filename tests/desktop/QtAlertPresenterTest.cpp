@@ -69,6 +69,12 @@ TEST_F(QtAlertPresenterTest, TakesEnterForTheFirstButtonAndEscapeForTheLast) {
     EXPECT_EQ(_answers, (std::vector{1000, 1001}));
 }
 
+TEST_F(QtAlertPresenterTest, TakesTheButtonOfTheTitleForTheLast) {
+    _alerts.runModal({"Which?", "", {"One", "Two", "Three"}}, answer());
+    shown()->close();
+    EXPECT_EQ(_answers, std::vector{1002});
+}
+
 TEST_F(QtAlertPresenterTest, HasAButtonWhereNoneIsGiven) {
     _alerts.runModal({"Done", "", {}}, {});
     ASSERT_EQ(shown()->buttons().size(), 1);

@@ -153,6 +153,27 @@ TEST_F(QtTableViewTest, ADataSourceThatIsGoneShowsNothing) {
     view.widget().viewport()->grab();
 }
 
+TEST_F(QtTableViewTest, ArrowsGoToTheCellThatNamesTheRow) {
+    show({"a", "b"});
+    QTest::keyClick(&view.widget(), Qt::Key_Down);
+    QTest::keyClick(&view.widget(), Qt::Key_Down);
+    EXPECT_EQ(view.widget().currentIndex().data(Qt::AccessibleTextRole).toString(), "b");
+}
+
+TEST_F(QtTableViewTest, SaysSomethingWhereThereAreNoRows) {
+    int asked = 0;
+    view.setEmptyText([&] {
+        ++asked;
+        return QStringLiteral("Nothing");
+    });
+    show({"a"});
+    view.widget().grab();
+    EXPECT_EQ(asked, 0);
+    reload({});
+    view.widget().grab();
+    EXPECT_GT(asked, 0);
+}
+
 } // namespace
 
 } // namespace brindle::desktop
