@@ -16,10 +16,18 @@ struct SpeechVoice {
     friend bool operator==(const SpeechVoice&, const SpeechVoice&) = default;
 };
 
+/// Is told that a list of voices is another now. Thread: main.
+class SpeechVoicesObserver {
+public:
+    virtual ~SpeechVoicesObserver() = default;
+    virtual void speechVoicesDidChange() = 0;
+};
+
 /// The voices that the system has, in a fixed order. Thread: main.
 class SpeechVoices {
 public:
     virtual ~SpeechVoices() = default;
+    /// Those that are known; asking may have the system look for more. Returns at once.
     virtual std::vector<SpeechVoice> voices() const = 0;
     virtual std::optional<SpeechVoice> defaultVoice() const = 0;
     /// The voice at a place of the list; absent beyond its end.
@@ -27,6 +35,8 @@ public:
         const std::vector<SpeechVoice> list = voices();
         return index < list.size() ? std::optional(list[index]) : std::nullopt;
     }
+
+    std::weak_ptr<SpeechVoicesObserver> observer;
 };
 
 /// Is told how far a synthesizer is. Thread: main.

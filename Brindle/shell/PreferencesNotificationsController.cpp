@@ -36,6 +36,11 @@ std::vector<std::string> PreferencesNotificationsController::voices() const {
 
 /// The system may have other voices than before.
 void PreferencesNotificationsController::viewWillAppear() {
+    _environment.speechVoices->observer = weak_from_this();
+    speechVoicesDidChange();
+}
+
+void PreferencesNotificationsController::speechVoicesDidChange() {
     voicesPopUpButton->removeAllItems();
     std::int64_t tag = 0;
     for (std::string& voice : voices())

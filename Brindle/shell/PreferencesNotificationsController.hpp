@@ -11,7 +11,9 @@
 namespace brindle {
 
 /// The preferences of banners and speech. Thread: main.
-class PreferencesNotificationsController : public PreferencesPane {
+class PreferencesNotificationsController : public PreferencesPane,
+                                           public SpeechVoicesObserver,
+                                           public std::enable_shared_from_this<PreferencesNotificationsController> {
 public:
     explicit PreferencesNotificationsController(PreferencesEnvironment environment);
 
@@ -20,6 +22,7 @@ public:
     /// The names of the system's voices, in its order.
     std::vector<std::string> voices() const;
     void viewWillAppear() override;
+    void speechVoicesDidChange() override;
 
 private:
     const PreferencesEnvironment _environment;

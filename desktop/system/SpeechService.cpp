@@ -5,7 +5,6 @@
 #include "foundation/LocalizedStrings.hpp"
 
 #include <algorithm>
-#include <condition_variable>
 
 namespace brindle::desktop {
 
@@ -16,14 +15,7 @@ constexpr unsigned long endLimit = 500; // milliseconds
 
 } // namespace
 
-/// What the worker found, for the main thread to wait for.
-struct SpeechService::FoundVoices {
-    std::mutex mutex;
-    std::condition_variable found;
-    std::optional<QStringList> names;
-};
-
-SpeechService::SpeechService() : _found(std::make_shared<FoundVoices>()) {
+SpeechService::SpeechService() {
     _limit.setSingleShot(true);
     connect(&_limit, &QTimer::timeout, this, [this] {
         QMetaObject::invokeMethod(_worker, &SpeechWorker::stop);
@@ -34,7 +26,7 @@ SpeechService::SpeechService() : _found(std::make_shared<FoundVoices>()) {
 SpeechService::~SpeechService() {
     if (!_thread)
         return;
-    _thread->quit();
+    QMetaObject::invokeMethod(_worker, &SpeechWorker::end);
     // A thread that hangs is left to the end of the process.
     if (_thread->wait(endLimit)) {
         delete _worker;
@@ -48,15 +40,8 @@ void SpeechService::begin() const {
     _thread = new QThread;
     _worker = new SpeechWorker;
     _worker->moveToThread(_thread);
-    connect(
-        _worker, &SpeechWorker::voicesFound, _worker,
-        [found = _found](const QStringList& names) {
-            const std::lock_guard lock(found->mutex);
-            found->names = names;
-            found->found.notify_all();
-        },
-        Qt::DirectConnection);
     auto* const self = const_cast<SpeechService*>(this);
+    connect(_worker, &SpeechWorker::voicesFound, self, [self](const QStringList& names) { self->takeVoices(names); });
     connect(_worker, &SpeechWorker::finished, self, [self](unsigned utterance) { self->finish(utterance); });
     _thread->start();
     QMetaObject::invokeMethod(_worker, &SpeechWorker::begin);
@@ -85,24 +70,24 @@ std::optional<SpeechVoice> SpeechService::defaultVoice() const {
     return SpeechVoice{"0", localized("Default voice")};
 }
 
+void SpeechService::takeVoices(const QStringList& names) {
+    _names = names;
+    if (const auto receiver = observer.lock())
+        receiver->speechVoicesDidChange();
+}
+
 std::vector<SpeechVoice> SpeechService::voices() const {
     begin();
     std::vector<SpeechVoice> list = {*defaultVoice()};
-    std::unique_lock lock(_found->mutex);
-    if (!_found->found.wait_for(lock, voicesLimit, [this] { return _found->names.has_value(); }))
-        return list;
-    for (const QString& name : *_found->names)
+    for (const QString& name : _names)
         list.push_back({std::to_string(list.size()), fromQString(name)});
     return list;
 }
 
 std::optional<SpeechVoice> SpeechService::voice(std::size_t index) const {
-    const std::lock_guard lock(_found->mutex);
     if (index == 0)
         return defaultVoice();
-    const auto place = static_cast<qsizetype>(index) - 1;
-    const bool isKnown = _found->names && place < _found->names->size();
-    return SpeechVoice{std::to_string(index), isKnown ? fromQString(_found->names->at(place)) : std::string()};
+    return SpeechVoice{std::to_string(index), fromQString(_names.value(static_cast<qsizetype>(index) - 1))};
 }
 
 } // namespace brindle::desktop

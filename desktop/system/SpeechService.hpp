@@ -8,7 +8,6 @@
 #include <QTimer>
 #include <chrono>
 #include <memory>
-#include <mutex>
 #include <optional>
 
 namespace brindle::desktop {
@@ -22,8 +21,6 @@ class SpeechService : public QObject, public SpeechSynthesizer, public SpeechVoi
     Q_OBJECT
 
 public:
-    /// How long a list of voices is waited for; who asks later gets all of it.
-    static constexpr std::chrono::milliseconds voicesLimit{2000};
     /// How long an utterance may take: this, and this much for each of its characters.
     static constexpr std::chrono::milliseconds utteranceLimit{20'000};
     static constexpr std::chrono::milliseconds characterLimit{250};
@@ -34,18 +31,18 @@ public:
     bool isSpeaking() const override { return _isSpeaking; }
     void speak(const std::string& text, const SpeechVoice& voice) override;
 
+    /// The first call begins to look for them.
     std::vector<SpeechVoice> voices() const override;
     std::optional<SpeechVoice> defaultVoice() const override;
-    /// Doesn't wait for the list: names may be missing.
+    /// Also while they are being looked for: names may be missing.
     std::optional<SpeechVoice> voice(std::size_t index) const override;
 
 private:
-    struct FoundVoices;
-
     void begin() const;
+    void takeVoices(const QStringList& names);
     void finish(unsigned utterance);
 
-    const std::shared_ptr<FoundVoices> _found;
+    QStringList _names;                 ///< of the voices behind the first; empty before they were found
     mutable QThread* _thread = nullptr; ///< null before the first use
     mutable SpeechWorker* _worker = nullptr;
     QTimer _limit;

@@ -1,5 +1,7 @@
 #include "desktop/system/SpeechWorker.hpp"
 
+#include <QThread>
+
 namespace brindle::desktop {
 
 void SpeechWorker::begin() {
@@ -31,6 +33,11 @@ void SpeechWorker::speak(const QString& text, int voice, unsigned utterance) {
 void SpeechWorker::stop() {
     if (_engine)
         _engine->stop();
+}
+
+void SpeechWorker::end() {
+    _engine.reset();
+    thread()->quit();
 }
 
 void SpeechWorker::stateChanged(QTextToSpeech::State state) {

@@ -19,6 +19,8 @@ public:
     /// `voice` is a place in the list that was told; any other: the engine's own choice.
     void speak(const QString& text, int voice, unsigned utterance);
     void stop();
+    /// Gives the engine up, which may wait for the daemon as well, and ends the thread.
+    void end();
 
 signals:
     void voicesFound(const QStringList& names);

@@ -324,6 +324,20 @@ TEST_F(PreferencesWindowTest, MenuStoresTheFontSizeOfThePreview) {
     EXPECT_EQ(environment.defaults->doubleForKey(preference::customFontSizeForPreview), 20);
 }
 
+TEST_F(PreferencesWindowTest, NotificationsListVoicesThatAreFoundLater) {
+    const auto voices = std::make_shared<SpeechVoicesFake>();
+    voices->list = {{"a", "Anna"}};
+    environment.speechVoices = voices;
+    remake();
+    set(preference::speechVoiceIndex, std::int64_t(1));
+    open();
+    const auto& shown = pane<PreferencesNotificationsController>(TabKind::notifications);
+    EXPECT_EQ(shown.voicesPopUpButton->selectedItem(), nullptr);
+    voices->list.push_back({"b", "Bert"});
+    voices->observer.lock()->speechVoicesDidChange();
+    EXPECT_EQ(shown.voicesPopUpButton->selectedItem()->title(), "Bert");
+}
+
 TEST_F(PreferencesWindowTest, NotificationsListTheVoicesInTheirOrder) {
     const auto voices = std::make_shared<SpeechVoicesFake>();
     voices->list = {{"a", "Anna"}, {"b", "Bert"}, {"c", "Cleo"}};
