@@ -36,6 +36,10 @@ QDBusVariant DBusMenuAdaptor::GetProperty(int id, const QString& name) {
 }
 
 void DBusMenuAdaptor::Event(int id, const QString& eventId, const QDBusVariant&, uint) {
+    if (eventId == QLatin1String("opened"))
+        return _menu.opened(id);
+    if (eventId == QLatin1String("closed"))
+        return _menu.closed(id);
     if (eventId != QLatin1String("clicked"))
         return;
     // The panel is answered first: an action may take its time.

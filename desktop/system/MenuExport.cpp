@@ -1,6 +1,8 @@
 #include "desktop/system/MenuExport.hpp"
 
+#include "desktop/toolkit/MenuView.hpp"
 #include "desktop/toolkit/Text.hpp"
+#include "foundation/LocalizedStrings.hpp"
 
 #include <QCoreApplication>
 #include <algorithm>
@@ -29,7 +31,7 @@ std::string titleWithoutCount(const std::string& title) {
 
 /// Underscores would mark shortcuts.
 QString label(const std::string& title) {
-    return toQString(title).simplified().replace(QLatin1Char('_'), QLatin1String("__"));
+    return titleText(title).simplified().replace(QLatin1Char('_'), QLatin1String("__"));
 }
 
 } // namespace
@@ -45,6 +47,12 @@ MenuExport::MenuExport(std::shared_ptr<Menu> menu, std::shared_ptr<ResponderChai
     : _menu(std::move(menu)), _chain(std::move(chain)) {
     _layoutTimer.setSingleShot(true);
     connect(&_layoutTimer, &QTimer::timeout, this, [this] { tellLayout(); });
+    _openTimer.setSingleShot(true);
+    connect(&_openTimer, &QTimer::timeout, this, [this] { close(); });
+}
+
+MenuExport::~MenuExport() {
+    close();
 }
 
 void MenuExport::rebuild() {
@@ -64,7 +72,8 @@ void MenuExport::rebuild() {
     while (!toFill.empty()) {
         const int id = toFill.front();
         toFill.pop_front();
-        if (id != 0 && !looked.contains(id) && _nodes.size() + _nodes[id].menu->items().size() > itemsAtOnce)
+        const bool isPart = _nodes[id].first > 0;
+        if (id != 0 && !looked.contains(id) && (isPart || _nodes.size() + _nodes[id].menu->items().size() > itemsAtOnce))
             continue;
         fill(id);
         for (const int child : _nodes[id].children) {
@@ -80,21 +89,30 @@ void MenuExport::fill(int id) {
     menu->update(*_chain);
     std::map<Key, int> counts;
     std::vector<int> children;
-    for (const std::shared_ptr<MenuItem>& item : menu->items()) {
-        const std::shared_ptr<Object> object = item->representedObject();
-        Key key = {id, std::string(item->action()), object.get(), object ? std::string() : titleWithoutCount(item->title()), 0};
-        std::get<4>(key) = counts[key]++;
-        const int child = idOf(std::move(key));
-        const std::shared_ptr<Menu> submenu = item->submenu();
-        const bool isShown = submenu && !isForView(*submenu);
-        _nodes[child] = {item, isShown ? submenu : nullptr, false, {}};
-        _idsOfItems[item.get()] = child;
-        children.push_back(child);
+    const Menu::Items& items = menu->items();
+    const std::size_t end = std::min(items.size(), _nodes[id].first + MenuView::mostItems);
+    for (std::size_t i = _nodes[id].first; i < end; ++i)
+        children.push_back(addItem(id, items[i], counts));
+    if (end < items.size()) {
+        children.push_back(idOf({id, std::string(), nullptr, std::string(), -1}));
+        _nodes[children.back()] = {nullptr, menu, end, false, {}};
     }
     _nodes[id].children = std::move(children);
     _nodes[id].isFilled = true;
     observe(menu);
     _isFilling = false;
+}
+
+int MenuExport::addItem(int parent, const std::shared_ptr<MenuItem>& item, std::map<Key, int>& counts) {
+    const std::shared_ptr<Object> object = item->representedObject();
+    Key key = {parent, std::string(item->action()), object.get(), object ? std::string() : titleWithoutCount(item->title()), 0};
+    std::get<4>(key) = counts[key]++;
+    const int id = idOf(std::move(key));
+    const std::shared_ptr<Menu> submenu = item->submenu();
+    const bool isShown = submenu && !isForView(*submenu);
+    _nodes[id] = {item, isShown ? submenu : nullptr, 0, false, {}};
+    _idsOfItems[item.get()] = id;
+    return id;
 }
 
 void MenuExport::observe(const std::shared_ptr<Menu>& menu) {
@@ -137,8 +155,11 @@ QVariantMap MenuExport::properties(int id) const {
     const Node& node = found->second;
     if (node.menu)
         result.insert(QStringLiteral("children-display"), QStringLiteral("submenu"));
-    if (!node.item)
+    if (!node.item) {
+        if (node.first > 0)
+            result.insert(QStringLiteral("label"), toQString(localized("More")));
         return result;
+    }
     const MenuItem& item = *node.item;
     if (item.isSeparator()) {
         result.insert(QStringLiteral("type"), QStringLiteral("separator"));
@@ -156,7 +177,34 @@ QVariantMap MenuExport::properties(int id) const {
     return result;
 }
 
+void MenuExport::open(std::chrono::milliseconds limit) {
+    if (!std::exchange(_isOpen, true))
+        _menu->willOpen(*_chain);
+    _openTimer.start(limit);
+}
+
+void MenuExport::close() {
+    _openTimer.stop();
+    if (std::exchange(_isOpen, false))
+        _menu->didClose();
+}
+
+void MenuExport::opened(int id) {
+    if (id == 0 || _isOpen)
+        open(openLimit);
+}
+
+void MenuExport::closed(int id) {
+    if (id == 0)
+        close();
+}
+
 bool MenuExport::aboutToShow(int id) {
+    // Some panels only look, and open nothing.
+    if (id != 0)
+        opened(id);
+    else if (!_isOpen)
+        open(showLimit);
     if (_isStale) {
         rebuild();
         return contains(id);
@@ -178,6 +226,7 @@ void MenuExport::choose(int id) {
     if (found == _nodes.end() || !found->second.item)
         return;
     const std::shared_ptr<MenuItem> item = found->second.item;
+    close();
     item->setEnabled(_chain->validate(*item));
     if (item->isEnabled())
         _chain->perform(item);

@@ -72,11 +72,12 @@ void NotificationService::askForCapabilities() {
 }
 
 void NotificationService::send(const UserNotification& notification) {
-    const QString text = toQString(notification.informativeText);
+    // Both may hold the name of a feed, which may be of any length.
+    const QString text = titleText(notification.informativeText);
     const bool readsMarkup = _capabilities->contains(QStringLiteral("body-markup"));
     const bool hasActions = _capabilities->contains(QStringLiteral("actions"));
     QDBusMessage call = makeCall("Notify");
-    call << QStringLiteral("Brindle") << 0U << desktopEntry << toQString(notification.title) << (readsMarkup ? text.toHtmlEscaped() : text)
+    call << QStringLiteral("Brindle") << 0U << desktopEntry << titleText(notification.title) << (readsMarkup ? text.toHtmlEscaped() : text)
          << (hasActions ? QStringList{QStringLiteral("default"), QString()} : QStringList())
          << QVariantMap{{QStringLiteral("desktop-entry"), desktopEntry}} << serverDecides;
     _isBusy = true;

@@ -4,6 +4,7 @@
 #include "desktop/toolkit/MenuStyle.hpp"
 #include "desktop/toolkit/Text.hpp"
 #include "desktop/toolkit/ViewAction.hpp"
+#include "foundation/LocalizedStrings.hpp"
 
 #include <QActionEvent>
 #include <QKeyEvent>
@@ -60,7 +61,7 @@ MenuView::~MenuView() {
     // On the screen every item that goes would have the others laid out again.
     hide();
     if (std::exchange(_isOpen, false))
-        _menu->didClose();
+        tellClosed();
     empty();
 }
 
@@ -72,12 +73,17 @@ std::shared_ptr<MenuItem> MenuView::item(const QAction* action) const {
 void MenuView::fill() {
     empty();
     setStyle(MenuStyle::shared());
-    _menu->willOpen(*_chain);
+    // The other parts open while the first one is open.
+    if (_first == 0)
+        _menu->willOpen(*_chain);
     const Menu::Items items = _menu->items();
-    for (const std::shared_ptr<MenuItem>& each : items) {
-        _hasMarkColumn = _hasMarkColumn || each->state();
-        addItem(each);
+    const std::size_t end = std::min(items.size(), _first + mostItems);
+    for (std::size_t i = _first; i < end; ++i) {
+        _hasMarkColumn = _hasMarkColumn || items[i]->state();
+        addItem(items[i]);
     }
+    if (end < items.size())
+        _more = addAction(toQString(localized("More")));
 }
 
 void MenuView::empty() {
@@ -87,6 +93,7 @@ void MenuView::empty() {
         delete action;
     }
     _items.clear();
+    _more = nullptr;
     _hasMarkColumn = false;
 }
 
@@ -122,10 +129,15 @@ int MenuView::titleWidth() const {
 
 void MenuView::makeSubmenu(QAction* action) {
     const std::shared_ptr<MenuItem> pointedAt = item(action);
-    if (!pointedAt || action->menu() || !pointedAt->hasSubmenu() || !pointedAt->submenu())
+    const bool isMore = action && action == _more;
+    const bool hasSubmenu = isMore || (pointedAt && pointedAt->hasSubmenu() && pointedAt->submenu());
+    if (!hasSubmenu || action->menu())
         return;
+    auto* const submenu = new MenuView(isMore ? _menu : pointedAt->submenu(), _chain, this);
+    if (isMore)
+        submenu->_first = _first + mostItems;
     _attachesSubmenu = true;
-    action->setMenu(new MenuView(pointedAt->submenu(), _chain, this));
+    action->setMenu(submenu);
     _attachesSubmenu = false;
 }
 
@@ -138,7 +150,7 @@ void MenuView::actionEvent(QActionEvent* event) {
 void MenuView::didClose() {
     if (!std::exchange(_isOpen, false))
         return;
-    _menu->didClose();
+    tellClosed();
     // Not at once: the toolkit tells of the chosen action after the menu is gone.
     QMetaObject::invokeMethod(
         this,
@@ -149,8 +161,15 @@ void MenuView::didClose() {
         Qt::QueuedConnection);
 }
 
+void MenuView::tellClosed() {
+    if (_first == 0)
+        _menu->didClose();
+}
+
 void MenuView::initStyleOption(QStyleOptionMenuItem* option, const QAction* action) const {
     QMenu::initStyleOption(option, action);
+    if (action && action == _more)
+        option->menuItemType = QStyleOptionMenuItem::SubMenu;
     const std::shared_ptr<MenuItem> shown = item(action);
     if (!shown)
         return;

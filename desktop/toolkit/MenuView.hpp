@@ -6,6 +6,7 @@
 #include <QMenu>
 #include <QString>
 #include <QTimer>
+#include <cstddef>
 #include <memory>
 #include <unordered_map>
 
@@ -14,11 +15,15 @@ namespace brindle::desktop {
 /// Shows a menu of the program. Each time that it opens it takes the items as they are then, after who takes their actions was asked, and
 /// never changes while it is open; a submenu's view is made when somebody points at its item. An item that has an action beside its submenu
 /// is chosen by a click or Enter; pointing at it, or the arrow key, opens the submenu. Who types letters goes to the next item that begins
-/// with them. Titles are shown whole as far as the screen is wide. Thread: main.
+/// with them. Titles are shown whole as far as the screen is wide. Of a menu with more items than can be laid out at once, each part but the
+/// first is a submenu of the one before. Thread: main.
 class MenuView : public QMenu {
     Q_OBJECT
 
 public:
+    /// How many items are shown in one part.
+    static constexpr std::size_t mostItems = 1000;
+
     MenuView(std::shared_ptr<Menu> menu, std::shared_ptr<ResponderChain> chain, QWidget* parent = nullptr);
     ~MenuView() override;
 
@@ -41,6 +46,7 @@ private:
     int titleWidth() const;
     void makeSubmenu(QAction* action);
     void didClose();
+    void tellClosed();
     void choose(const QAction* action);
     QAction* itemThatBegins(const QString& letters) const;
     void goTo(const QAction* action);
@@ -48,7 +54,9 @@ private:
 
     const std::shared_ptr<Menu> _menu;
     const std::shared_ptr<ResponderChain> _chain;
+    std::size_t _first = 0; ///< the place of this part's first item in the menu
     std::unordered_map<const QAction*, std::shared_ptr<MenuItem>> _items;
+    QAction* _more = nullptr; ///< that leads to the next part; null where there is none
     bool _hasMarkColumn = false;
     bool _isOpen = false;
     bool _attachesSubmenu = false;

@@ -1,6 +1,7 @@
 #include "desktop/system/MenuExport.hpp"
 
 #include "desktop/system/StatusNotifierItem.hpp"
+#include "desktop/toolkit/MenuView.hpp"
 #include "desktop/toolkit/Text.hpp"
 #include "tests/desktop/EventLoop.hpp"
 #include "tests/desktop/PrivateBus.hpp"
@@ -59,6 +60,7 @@ protected:
 
     std::shared_ptr<ActionHandlerFake> _handler = std::make_shared<ActionHandlerFake>();
     std::shared_ptr<ResponderChain> _chain = std::make_shared<ResponderChain>();
+    std::shared_ptr<MenuDelegateFake> _delegate = std::make_shared<MenuDelegateFake>();
     std::shared_ptr<Menu> _menu = std::make_shared<Menu>();
     std::shared_ptr<MenuExport> _export;
 };
@@ -192,6 +194,25 @@ TEST_F(MenuExportTest, TellsOnlyTheSubmenusThatFitIntoALargeMenu) {
     EXPECT_EQ(child(layout, 2).children.size(), 10);
 }
 
+TEST_F(MenuExportTest, TellsALargeMenuInParts) {
+    const auto below = std::make_shared<Menu>();
+    for (std::size_t i = 0; i < 2 * MenuView::mostItems + 1; ++i)
+        below->addItem(std::make_shared<MenuItem>("Article " + std::to_string(i), "show:"));
+    add("Unread", {})->setSubmenu(below);
+    make();
+    int id = idAt(0);
+    for (const int count : {1001, 1001, 1}) {
+        EXPECT_TRUE(_export->aboutToShow(id));
+        const DBusMenuLayout part = _export->layout(id, 1);
+        ASSERT_EQ(part.children.size(), count);
+        id = child(part, count - 1).id;
+        EXPECT_EQ(_export->properties(id).value("label"), count == 1 ? "Article 2000" : "More");
+        EXPECT_EQ(_export->properties(id).contains("children-display"), count != 1);
+    }
+    _export->choose(id);
+    EXPECT_THAT(_handler->log, ElementsAre("show:"));
+}
+
 TEST_F(MenuExportTest, ShowsNoViews) {
     const auto item = add("Article", "showArticle:");
     const auto preview = std::make_shared<Menu>();
@@ -218,6 +239,47 @@ TEST_F(MenuExportTest, PerformsNothingForADisabledItemOrAnUnknownNumber) {
     _handler->validates = false;
     _export->choose(idAt(0));
     EXPECT_THAT(_handler->log, ElementsAre());
+}
+
+TEST_F(MenuExportTest, IsOpenToItsDelegateWhileThePanelShowsIt) {
+    _menu->delegate = _delegate;
+    const auto item = add("Group");
+    item->setSubmenu(std::make_shared<Menu>());
+    make();
+    _export->aboutToShow(0);
+    _export->opened(0);
+    _export->opened(idAt(0));
+    _export->closed(idAt(0));
+    EXPECT_THAT(_delegate->log, ElementsAre("menuWillOpen"));
+    _export->closed(0);
+    _export->closed(0);
+    EXPECT_THAT(_delegate->log, ElementsAre("menuWillOpen", "menuDidClose"));
+}
+
+TEST_F(MenuExportTest, IsClosedByAChoiceBeforeItsAction) {
+    _menu->delegate = _delegate;
+    add("Item", "doIt:");
+    make();
+    _export->opened(0);
+    _handler->onPerform = [this](const Action&) { EXPECT_THAT(_delegate->log, ElementsAre("menuWillOpen", "menuDidClose")); };
+    _export->choose(idAt(0));
+    EXPECT_THAT(_handler->log, ElementsAre("doIt:"));
+}
+
+TEST_F(MenuExportTest, DoesNotStayOpenWhereThePanelTellsNoMoreOfIt) {
+    _menu->delegate = _delegate;
+    make();
+    _export->aboutToShow(0);
+    EXPECT_TRUE(runEventLoop([this] { return _delegate->log.size() == 2; }));
+    _export->opened(0);
+    _export.reset();
+    EXPECT_THAT(_delegate->log, ElementsAre("menuWillOpen", "menuDidClose", "menuWillOpen", "menuDidClose"));
+}
+
+TEST_F(MenuExportTest, CutsATitleOfAnyLength) {
+    add(std::string(1 << 20, 'x'));
+    make();
+    EXPECT_LT(labels().front().size(), 2000U);
 }
 
 TEST_F(MenuExportTest, SurvivesAMenuOfAnyDepth) {
@@ -256,8 +318,13 @@ TEST_F(MenuExportTest, AnswersOnTheBus) {
     ASSERT_EQ(layout.children.size(), 1);
     const auto first = qdbus_cast<DBusMenuLayout>(layout.children.constFirst().value<QDBusArgument>());
     EXPECT_EQ(first.properties.value("label"), "Item");
+    _menu->delegate = _delegate;
     call("AboutToShow", {0});
     const QVariant noData = QVariant::fromValue(QDBusVariant(0));
+    call("Event", {0, "opened", noData, 0U});
+    EXPECT_THAT(_delegate->log, ElementsAre("menuWillOpen"));
+    call("Event", {0, "closed", noData, 0U});
+    EXPECT_THAT(_delegate->log, ElementsAre("menuWillOpen", "menuDidClose"));
     EXPECT_EQ(call("Event", {first.id, "clicked", noData, 0U}).type(), QDBusMessage::ReplyMessage);
     ASSERT_TRUE(runEventLoop([this] { return !_handler->log.empty(); }));
     EXPECT_THAT(_handler->log, ElementsAre("doIt:"));

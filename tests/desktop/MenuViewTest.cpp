@@ -247,4 +247,28 @@ TEST_F(MenuViewTest, ScrollsALongListRatherThanOutgrowTheScreen) {
     EXPECT_LE(_view->height(), _view->screen()->geometry().height());
 }
 
+TEST_F(MenuViewTest, ShowsALargeMenuInParts) {
+    const auto delegate = std::make_shared<MenuDelegateFake>();
+    _menu->delegate = delegate;
+    for (std::size_t i = 0; i < 2 * MenuView::mostItems + 1; ++i)
+        add("Article " + std::to_string(i), "show:");
+    open();
+    ASSERT_EQ(_view->actions().size(), 1001);
+    EXPECT_EQ(texts()[999], "Article 999");
+    EXPECT_EQ(texts()[1000], "More");
+    MenuView* const second = submenu(1000);
+    second->popup(QPoint(10, 10));
+    ASSERT_EQ(second->actions().size(), 1001);
+    EXPECT_EQ(second->actions().first()->text(), QStringLiteral("Article 1000"));
+    emit second->hovered(second->actions().last());
+    auto* const third = qobject_cast<MenuView*>(second->actions().last()->menu());
+    third->popup(QPoint(10, 10));
+    ASSERT_EQ(third->actions().size(), 1);
+    third->actions().first()->trigger();
+    EXPECT_THAT(_handler->log, ElementsAre("show:"));
+    EXPECT_THAT(delegate->log, ElementsAre("menuWillOpen"));
+    _view->hide();
+    EXPECT_THAT(delegate->log, ElementsAre("menuWillOpen", "menuDidClose"));
+}
+
 } // namespace brindle::desktop

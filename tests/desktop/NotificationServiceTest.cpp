@@ -72,6 +72,16 @@ protected:
 
 } // namespace
 
+TEST_F(NotificationServiceTest, CutsTextsOfAnyLength) {
+    startServer();
+    NotificationService banners(_bus.connect());
+    banners.deliver({std::string(1 << 20, 'x'), std::string(1 << 20, 'y')});
+    ASSERT_TRUE(haveCome(1));
+    const QVariantList arguments = calls("Notify").constFirst();
+    EXPECT_LT(arguments[3].toString().size(), 2000);
+    EXPECT_LT(arguments[4].toString().size(), 2000);
+}
+
 TEST_F(NotificationServiceTest, ShowsABannerWithItsMarkupEscaped) {
     startServer();
     NotificationService banners(_bus.connect());
