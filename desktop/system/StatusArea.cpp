@@ -31,7 +31,7 @@ QPoint inPoints(const QPoint& place) {
 StatusArea::StatusArea(QDBusConnection bus) : _item(std::move(bus)) {
     connect(&_item, &StatusNotifierItem::isShownChanged, this, [this] { chooseWay(); });
     connect(&_item, &StatusNotifierItem::activated, this, [this](const QPoint& place) { showMenu(inPoints(place)); });
-    chooseWay();
+    connect(&_trayEvents, &TrayEvents::happened, this, [this] { chooseWay(); });
 }
 
 StatusArea::~StatusArea() = default;
@@ -45,12 +45,17 @@ bool StatusArea::hasStatusArea() const {
     return _item.isShown() || (_trayIcon && QSystemTrayIcon::isSystemTrayAvailable());
 }
 
+/// The toolkit's icon is made only where it is known to be needed: once it has found items on the bus it never goes to a tray. It finds the
+/// tray by itself, whenever that comes.
 void StatusArea::chooseWay() {
+    if (!_item.isAnswered())
+        return;
     if (_item.isShown())
         _trayIcon.reset();
     else if (!_trayIcon)
         makeTrayIcon();
-    if (std::exchange(_hadStatusArea, hasStatusArea()) != _hadStatusArea)
+    const bool isThere = hasStatusArea();
+    if (std::exchange(_hadStatusArea, isThere) != isThere)
         emit hasStatusAreaChanged();
 }
 

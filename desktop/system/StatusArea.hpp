@@ -1,6 +1,7 @@
 #pragma once
 
 #include "desktop/system/StatusNotifierItem.hpp"
+#include "desktop/system/TrayEvents.hpp"
 #include "desktop/toolkit/MenuView.hpp"
 #include "platform/ResponderChain.hpp"
 #include "platform/StatusItem.hpp"
@@ -44,6 +45,7 @@ public:
     void setMenu(const std::shared_ptr<Menu>& menu) override;
 
 signals:
+    /// Also when it is first known.
     void hasStatusAreaChanged();
     void menuChanged();
 
@@ -57,6 +59,7 @@ private:
     void connectMenu();
 
     StatusNotifierItem _item;
+    TrayEvents _trayEvents;
     std::unique_ptr<QSystemTrayIcon> _trayIcon; ///< while there are no items on the bus
     std::shared_ptr<ResponderChain> _chain;
     std::shared_ptr<Menu> _menu;
@@ -66,7 +69,7 @@ private:
     std::string _toolTip;
     std::function<std::string()> _details; ///< empty: nothing
     bool _isUpdateDue = false;
-    bool _hadStatusArea = false;
+    std::optional<bool> _hadStatusArea; ///< as was told; absent: nothing yet
 };
 
 } // namespace brindle::desktop

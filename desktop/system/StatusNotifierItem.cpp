@@ -24,6 +24,9 @@ StatusNotifierItem::StatusNotifierItem(QDBusConnection bus)
       _service(QStringLiteral("org.kde.StatusNotifierItem-%1-1").arg(QCoreApplication::applicationPid())) {
     registerDBusTypes();
     new StatusNotifierItemAdaptor(*this);
+    // Who makes it is to hear what is found.
+    QMetaObject::invokeMethod(
+        this, [this] { lookForWatcher(); }, Qt::QueuedConnection);
     if (!_bus.isConnected())
         return;
     _bus.registerObject(QLatin1String(itemPath), this, QDBusConnection::ExportAdaptors);
@@ -32,12 +35,11 @@ StatusNotifierItem::StatusNotifierItem(QDBusConnection bus)
              std::pair("StatusNotifierHostUnregistered", SLOT(hostUnregistered()))})
         _bus.connect(watcherService, watcherPath, watcherService, QLatin1String(name), this, slot);
     connect(&_watcher, &QDBusServiceWatcher::serviceOwnerChanged, this, [this](const QString&, const QString&, const QString& owner) {
-        setState(false, false);
-        if (!owner.isEmpty())
+        if (owner.isEmpty())
+            setState(false, false);
+        else
             registerItem();
     });
-    if (_bus.interface()->isServiceRegistered(watcherService))
-        registerItem();
 }
 
 StatusNotifierItem::~StatusNotifierItem() {
@@ -64,6 +66,13 @@ void StatusNotifierItem::setMenu(std::shared_ptr<MenuExport> menu) {
     _bus.registerObject(QLatin1String(menuPath), _menu.get(), QDBusConnection::ExportAdaptors);
 }
 
+void StatusNotifierItem::lookForWatcher() {
+    if (_bus.isConnected() && _bus.interface()->isServiceRegistered(watcherService))
+        registerItem();
+    else
+        setState(false, false);
+}
+
 void StatusNotifierItem::registerItem() {
     QDBusMessage call =
         QDBusMessage::createMethodCall(watcherService, watcherPath, watcherService, QStringLiteral("RegisterStatusNotifierItem"));
@@ -71,9 +80,10 @@ void StatusNotifierItem::registerItem() {
     auto* const answer = new QDBusPendingCallWatcher(_bus.asyncCall(call), this);
     connect(answer, &QDBusPendingCallWatcher::finished, this, [this, answer] {
         answer->deleteLater();
-        setState(!answer->isError(), _hasHost);
-        if (_isRegistered)
-            askForHost();
+        if (answer->isError())
+            return setState(false, false);
+        _isRegistered = true;
+        askForHost();
     });
 }
 
@@ -91,7 +101,8 @@ void StatusNotifierItem::askForHost() {
 }
 
 void StatusNotifierItem::hostRegistered() {
-    setState(_isRegistered, true);
+    if (_isRegistered)
+        setState(true, true);
 }
 
 void StatusNotifierItem::hostUnregistered() {
@@ -101,10 +112,10 @@ void StatusNotifierItem::hostUnregistered() {
 }
 
 void StatusNotifierItem::setState(bool isRegistered, bool hasHost) {
-    const bool wasShown = isShown();
     _isRegistered = isRegistered;
     _hasHost = hasHost;
-    if (wasShown != isShown())
+    const bool isShown = isRegistered && hasHost;
+    if (std::exchange(_isShown, isShown) != isShown)
         emit isShownChanged();
 }
 

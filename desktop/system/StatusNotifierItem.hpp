@@ -8,6 +8,7 @@
 #include <QObject>
 #include <QPoint>
 #include <memory>
+#include <optional>
 
 namespace brindle::desktop {
 
@@ -37,9 +38,12 @@ public:
     void setMenu(std::shared_ptr<MenuExport> menu);
 
     /// Whether a panel shows items, as far as is known.
-    bool isShown() const { return _isRegistered && _hasHost; }
+    bool isShown() const { return _isShown.value_or(false); }
+    /// Whether it is known: false until the first answer.
+    bool isAnswered() const { return _isShown.has_value(); }
 
 signals:
+    /// Also when it is first known, in a later turn than the making.
     void isShownChanged();
     /// The person clicked it; `place` is on the screen.
     void activated(const QPoint& place);
@@ -50,6 +54,7 @@ private slots:
     void hostUnregistered();
 
 private:
+    void lookForWatcher();
     void registerItem();
     void askForHost();
     void setState(bool isRegistered, bool hasHost);
@@ -61,6 +66,7 @@ private:
     std::shared_ptr<MenuExport> _menu;
     bool _isRegistered = false;
     bool _hasHost = false;
+    std::optional<bool> _isShown; ///< absent: not known yet
 };
 
 } // namespace brindle::desktop

@@ -10,8 +10,8 @@
 
 namespace brindle::desktop {
 
-std::shared_ptr<SplashWindow> makeSplashWindow(const WindowEnvironment& windows) {
-    return QtSplashWindow::make(windows);
+std::shared_ptr<SplashWindow> makeSplashWindow(const WindowEnvironment& windows, std::shared_ptr<StatusMenu> statusMenu) {
+    return QtSplashWindow::make(windows, std::move(statusMenu));
 }
 
 std::shared_ptr<MediaPlayerWindowController> makeMediaPlayer(const WindowEnvironment& windows, std::shared_ptr<AlertPresenter> alerts) {

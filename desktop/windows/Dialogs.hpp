@@ -5,6 +5,7 @@
 #include "Brindle/shell/NewFeedWindowController.hpp"
 #include "Brindle/shell/PreferencesWindowController.hpp"
 #include "Brindle/shell/SplashWindow.hpp"
+#include "desktop/toolkit/StatusMenu.hpp"
 #include "desktop/windows/QtWindow.hpp"
 #include "foundation/UserDefaults.hpp"
 #include "platform/Alert.hpp"
@@ -14,7 +15,7 @@
 /// The windows beside the feeds browser, each with its controller, loaded and not yet shown. None is null. Thread: main.
 namespace brindle::desktop {
 
-std::shared_ptr<SplashWindow> makeSplashWindow(const WindowEnvironment& windows);
+std::shared_ptr<SplashWindow> makeSplashWindow(const WindowEnvironment& windows, std::shared_ptr<StatusMenu> statusMenu);
 std::shared_ptr<MediaPlayerWindowController> makeMediaPlayer(const WindowEnvironment& windows, std::shared_ptr<AlertPresenter> alerts);
 std::shared_ptr<PreferencesWindowController> makePreferencesWindow(
     const WindowEnvironment& windows, const PreferencesEnvironment& environment);

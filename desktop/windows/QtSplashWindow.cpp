@@ -41,16 +41,19 @@ QLabel* makeTitle(const std::string& text, QWidget* parent) {
 
 } // namespace
 
-std::shared_ptr<QtSplashWindow> QtSplashWindow::make(WindowEnvironment environment) {
-    const std::shared_ptr<QtSplashWindow> splash(new QtSplashWindow(std::move(environment)));
+std::shared_ptr<QtSplashWindow> QtSplashWindow::make(WindowEnvironment environment, std::shared_ptr<StatusMenu> statusMenu) {
+    const std::shared_ptr<QtSplashWindow> splash(new QtSplashWindow(std::move(environment), std::move(statusMenu)));
     splash->_window->setDelegate(splash);
     return splash;
 }
 
-QtSplashWindow::QtSplashWindow(WindowEnvironment environment) : _window(std::make_unique<QtWindow>(std::move(environment))) {
+QtSplashWindow::QtSplashWindow(WindowEnvironment environment, std::shared_ptr<StatusMenu> statusMenu)
+    : _window(std::make_unique<QtWindow>(std::move(environment))), _statusMenu(std::move(statusMenu)),
+      _place(makeText({}, &_window->widget())), _placeObserver(_statusMenu->observe([this] { showPlace(); })) {
     _window->setTitle(localized("Welcome to Brindle"));
     _window->setStyleMask(Window::titled | Window::closable);
     _window->widget().setCentralWidget(makeContent());
+    showPlace();
 }
 
 QWidget* QtSplashWindow::makeContent() {
@@ -67,8 +70,7 @@ QWidget* QtSplashWindow::makeContent() {
     column->addWidget(icon);
     column->addWidget(makeTitle(localized("Welcome to Brindle"), content));
     column->addWidget(makeText(localized("New articles of your feeds wait in a menu, one click away."), content));
-    column->addWidget(
-        makeText(localized("Look for the Brindle icon in the bar of your desktop. Everything else is in its menu."), content));
+    column->addWidget(_place);
     column->addSpacing(margin / 2);
     column->addWidget(button, 0, Qt::AlignHCenter);
     QObject::connect(button, &QPushButton::clicked, _window.get(), [this] { handleClick(); });
@@ -76,6 +78,12 @@ QWidget* QtSplashWindow::makeContent() {
         QObject::connect(new QShortcut(QKeySequence(key), content), &QShortcut::activated, _window.get(), [this] { handleClick(); });
     button->setFocus();
     return content;
+}
+
+void QtSplashWindow::showPlace() {
+    const bool hasIcon = _statusMenu->isHidden();
+    _place->setText(toQString(hasIcon ? localized("Look for the Brindle icon in the bar of your desktop. Everything else is in its menu.")
+                                      : localized("Everything else is in the menu of the browser window.")));
 }
 
 void QtSplashWindow::close() {

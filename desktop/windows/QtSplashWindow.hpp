@@ -1,9 +1,12 @@
 #pragma once
 
 #include "Brindle/shell/SplashWindow.hpp"
+#include "desktop/toolkit/StatusMenu.hpp"
 #include "desktop/windows/QtWindow.hpp"
 
 #include <memory>
+
+class QLabel;
 
 namespace brindle::desktop {
 
@@ -11,7 +14,8 @@ namespace brindle::desktop {
 /// Thread: main.
 class QtSplashWindow : public SplashWindow, public WindowDelegate, public std::enable_shared_from_this<QtSplashWindow> {
 public:
-    static std::shared_ptr<QtSplashWindow> make(WindowEnvironment environment);
+    /// `statusMenu` tells whether there is a place where the program's icon is seen.
+    static std::shared_ptr<QtSplashWindow> make(WindowEnvironment environment, std::shared_ptr<StatusMenu> statusMenu);
 
     QtWindow& window() const { return *_window; }
 
@@ -20,10 +24,14 @@ public:
     void windowWillClose() override;
 
 private:
-    explicit QtSplashWindow(WindowEnvironment environment);
+    QtSplashWindow(WindowEnvironment environment, std::shared_ptr<StatusMenu> statusMenu);
     QWidget* makeContent();
+    void showPlace();
 
     const std::unique_ptr<QtWindow> _window;
+    const std::shared_ptr<StatusMenu> _statusMenu;
+    QLabel* const _place; ///< where the program will be found
+    const Control::Token _placeObserver;
     bool _isClosing = false; ///< by the program itself
 };
 

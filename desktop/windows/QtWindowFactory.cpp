@@ -17,7 +17,7 @@ QtWindowFactory::QtWindowFactory(WindowEnvironment environment, std::shared_ptr<
 QtWindowFactory::~QtWindowFactory() = default;
 
 std::shared_ptr<SplashWindow> QtWindowFactory::makeSplashWindow() {
-    return desktop::makeSplashWindow(_environment);
+    return desktop::makeSplashWindow(_environment, _statusMenu);
 }
 
 std::shared_ptr<FeedsBrowserWindowController> QtWindowFactory::makeFeedsBrowser(const FeedsBrowserEnvironment& environment) {

@@ -1,12 +1,10 @@
-#include "foundation/FileManager.hpp"
-#include "tests/desktop/EventLoop.hpp"
-#include "tests/desktop/PrivateBus.hpp"
+#include "desktop/system/SingleInstance.hpp"
+#include "foundation/FileLock.hpp"
+#include "tests/desktop/ProgramFixture.hpp"
 #include "tests/desktop/StatusNotifierWatcherFake.hpp"
 #include "tests/desktop/VirtualDisplay.hpp"
-#include "tests/support/Folders.hpp"
 
-#include <QDBusConnectionInterface>
-#include <QProcess>
+#include <QSignalSpy>
 #include <gmock/gmock.h>
 
 namespace brindle::desktop {
@@ -17,72 +15,7 @@ using testing::StartsWith;
 
 namespace {
 
-/// The program itself, on no screen, on a bus and in a home of its own.
-class ProgramTest : public testing::Test {
-protected:
-    ~ProgramTest() override {
-        for (const auto& process : _processes)
-            desktop::stop(*process);
-    }
-
-    QProcess& start(const QStringList& arguments) {
-        QProcessEnvironment environment = _bus.environment();
-        const QString home = QString::fromStdString(_home.path().string());
-        for (const char* const name : {"HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME"})
-            environment.insert(QLatin1String(name), home);
-        environment.insert(QStringLiteral("QT_QPA_PLATFORM"), _platform);
-        for (const char* const name : {"DISPLAY", "WAYLAND_DISPLAY"})
-            environment.remove(QLatin1String(name));
-        if (!_display.isEmpty())
-            environment.insert(QStringLiteral("DISPLAY"), _display);
-        environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
-        auto& process = *_processes.emplace_back(std::make_unique<QProcess>());
-        process.setProcessEnvironment(environment);
-        process.start(QString::fromStdString(testsupport::buildFolder() + "/bin/brindle"), arguments);
-        EXPECT_TRUE(process.waitForStarted());
-        return process;
-    }
-    /// Its exit status.
-    static int finish(QProcess& process) {
-        EXPECT_TRUE(runEventLoop([&] { return process.state() == QProcess::NotRunning; }));
-        EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
-        return process.exitCode();
-    }
-    bool runs(const QString& name = QStringLiteral("org.brindle.Brindle")) {
-        const QDBusConnection observer = _bus.connect();
-        return runEventLoop([&] { return observer.interface()->isServiceRegistered(name); });
-    }
-    /// No first launch with its questions.
-    void setUpPreferences() {
-        write("brindle/Preferences.plist",
-            R"(<?xml version="1.0" encoding="UTF-8"?><plist version="1.0"><dict><key>isFrstLaunch</key><false/></dict></plist>)");
-    }
-    void write(const std::string& name, std::string_view text) {
-        const std::filesystem::path file = _home.path() / name;
-        ASSERT_TRUE(FileManager::createDirectory(file.parent_path()));
-        ASSERT_TRUE(FileManager::writeAtomically(file, text));
-    }
-    /// Runs the program until it has tried to fetch a feed that it was given, asks it to end, and gives the file of its library.
-    auto librarySavedAtTheEnd() {
-        setUpPreferences();
-        QProcess& program = start({QStringLiteral("--background"), QStringLiteral("https://c.invalid/feed")});
-        EXPECT_TRUE(runEventLoop([&] { return console(program).find("A connection error occured") != std::string::npos; }));
-        program.terminate();
-        EXPECT_EQ(finish(program), 0);
-        return FileManager::contents(_home / "Brindle/Feeds.brindle");
-    }
-    /// What has been written to its console so far.
-    static std::string console(QProcess& process) {
-        process.setReadChannel(QProcess::StandardOutput);
-        return process.peek(1 << 20).toStdString();
-    }
-
-    PrivateBus _bus;
-    TemporaryFolder _home;
-    QString _platform = QStringLiteral("offscreen");
-    QString _display; ///< of X11; empty: none
-    std::vector<std::unique_ptr<QProcess>> _processes;
-};
+using ProgramTest = ProgramFixture;
 
 } // namespace
 
@@ -107,6 +40,58 @@ TEST_F(ProgramTest, SaysThatThereIsNoDisplay) {
     QProcess& program = start({});
     EXPECT_EQ(finish(program), 1);
     EXPECT_THAT(program.readAllStandardError().toStdString(), HasSubstr("there is no display"));
+}
+
+TEST_F(ProgramTest, SaysThatADisplayCantBeReached) {
+    _platform.clear();
+    // The highest number that there can be: nobody has it.
+    _display = QStringLiteral(":65535");
+    QProcess& program = start({});
+    EXPECT_EQ(finish(program), 1);
+    EXPECT_THAT(program.readAllStandardError().toStdString(), HasSubstr("the display \":65535\" can't be reached"));
+    _display.clear();
+    _variables = {{QStringLiteral("WAYLAND_DISPLAY"), QStringLiteral("/nonexistent/wayland-0")}};
+    QProcess& other = start({});
+    EXPECT_EQ(finish(other), 1);
+    EXPECT_THAT(other.readAllStandardError().toStdString(), HasSubstr("the display \"/nonexistent/wayland-0\" can't be reached"));
+}
+
+TEST_F(ProgramTest, FindsTheDisplayThatAnswers) {
+    const VirtualDisplay display;
+    ASSERT_TRUE(display.isThere());
+    _platform.clear();
+    _display = display.name();
+    _variables = {{QStringLiteral("WAYLAND_DISPLAY"), QStringLiteral("/nonexistent/wayland-0")},
+        {QStringLiteral("XDG_SESSION_TYPE"), QStringLiteral("wayland")}};
+    setUpPreferences();
+    QProcess& program = start({QStringLiteral("--background")});
+    EXPECT_TRUE(hasBuiltItsMenu(program));
+}
+
+TEST_F(ProgramTest, HandsOverTheRightToComeToTheFront) {
+    SingleInstance running(_bus.connect(), QLatin1String(SingleInstance::standardName));
+    ASSERT_TRUE(running.acquire());
+    const QSignalSpy activated(&running, &SingleInstance::activated);
+    _variables = {{QStringLiteral("XDG_ACTIVATION_TOKEN"), QStringLiteral("a token")}};
+    EXPECT_EQ(finish(start({})), 0);
+    _variables = {{QStringLiteral("DESKTOP_STARTUP_ID"), QStringLiteral("an id_TIME1")}};
+    EXPECT_EQ(finish(start({})), 0);
+    ASSERT_TRUE(runEventLoop([&] { return activated.size() == 2; }));
+    EXPECT_EQ(activated[0][0], QStringLiteral("a token"));
+    EXPECT_EQ(activated[1][0], QStringLiteral("an id_TIME1"));
+}
+
+TEST_F(ProgramTest, EndsWhereAnotherProgramUsesTheLibrary) {
+    setUpPreferences();
+    ASSERT_TRUE(FileManager::createDirectory(_home / "Brindle"));
+    const auto lock = FileLock::tryLock(_home / "Brindle/.lock");
+    ASSERT_TRUE(lock && *lock);
+    QProcess& program = start({QStringLiteral("--background")});
+    ASSERT_TRUE(runEventLoop([&] {
+        program.setReadChannel(QProcess::StandardError);
+        return program.peek(1 << 16).contains("The library is in use by another program.");
+    }));
+    EXPECT_EQ(console(program), "");
 }
 
 TEST_F(ProgramTest, HandsAddressesAndFilesToTheProgramThatRuns) {

@@ -1,6 +1,9 @@
 #include "desktop/system/QtAlertPresenter.hpp"
 
+#include "desktop/windows/QtWindow.hpp"
 #include "tests/desktop/EventLoop.hpp"
+#include "tests/desktop/OnDisplay.hpp"
+#include "tests/support/TemporaryFolder.hpp"
 
 #include <QApplication>
 #include <QMainWindow>
@@ -104,6 +107,24 @@ TEST_F(QtAlertPresenterTest, ComesUpAboveAWindowThatStaysAboveTheOthers) {
     floating.hide();
     _alerts.runModal({"Failed", "", {"OK"}}, answer());
     EXPECT_FALSE(shown()->windowFlags().testFlag(Qt::WindowStaysOnTopHint));
+    button(QStringLiteral("OK"))->click();
+}
+
+TEST_F(QtAlertPresenterTest, LiesAboveAFloatingWindowThatLiesAboveTheOthers) {
+    BRINDLE_RUN_ON_DISPLAY();
+    const auto number = [](const QWidget& widget) { return QStringLiteral("0x%1").arg(widget.winId(), 0, 16); };
+    const TemporaryFolder folder;
+    const WindowEnvironment environment = {std::make_shared<UserDefaults>(folder / "Preferences.plist"), {}};
+    QtWindow player(environment);
+    player.setLevel(Window::Level::floating);
+    player.show();
+    QtWindow browser(environment);
+    browser.show();
+    const auto stack = [] { return windowStack(QProcessEnvironment::systemEnvironment()); };
+    const QStringList windows = {number(browser.widget()), number(player.widget())};
+    EXPECT_TRUE(runEventLoop([&] { return stack() == windows; }));
+    _alerts.runModal({"Failed", "", {"OK"}}, answer());
+    EXPECT_TRUE(runEventLoop([&] { return stack() == windows + QStringList{number(*shown())}; }));
     button(QStringLiteral("OK"))->click();
 }
 

@@ -2,9 +2,11 @@
 #include "tests/desktop/EventLoop.hpp"
 #include "tests/support/TemporaryFolder.hpp"
 
+#include <QLabel>
 #include <QMainWindow>
 #include <QPushButton>
 #include <QTest>
+#include <algorithm>
 #include <gtest/gtest.h>
 
 namespace brindle::desktop {
@@ -19,10 +21,16 @@ protected:
     }
 
     QMainWindow& shown() { return splash->window().widget(); }
+    bool tells(const QString& words) {
+        const auto labels = shown().findChildren<QLabel*>();
+        return std::any_of(labels.begin(), labels.end(), [&](const QLabel* each) { return each->text().contains(words); });
+    }
 
     TemporaryFolder folder;
     int dismissed = 0;
-    std::shared_ptr<QtSplashWindow> splash = QtSplashWindow::make({std::make_shared<UserDefaults>(folder / "Preferences.plist"), {}});
+    std::shared_ptr<StatusMenu> statusMenu = std::make_shared<StatusMenu>();
+    std::shared_ptr<QtSplashWindow> splash =
+        QtSplashWindow::make({std::make_shared<UserDefaults>(folder / "Preferences.plist"), {}}, statusMenu);
 };
 
 TEST_F(QtSplashWindowTest, IsDismissedByItsButton) {
@@ -47,6 +55,13 @@ TEST_F(QtSplashWindowTest, IsDismissedWhenAPersonClosesIt) {
     shown().close();
     ASSERT_TRUE(runEventLoop([&] { return dismissed > 0; }));
     EXPECT_EQ(dismissed, 1);
+}
+
+TEST_F(QtSplashWindowTest, TellsWhereTheProgramWillBeFound) {
+    EXPECT_TRUE(tells(QStringLiteral("Look for the Brindle icon")));
+    statusMenu->setHidden(false);
+    EXPECT_FALSE(tells(QStringLiteral("Look for the Brindle icon")));
+    EXPECT_TRUE(tells(QStringLiteral("in the menu of the browser window")));
 }
 
 } // namespace brindle::desktop
