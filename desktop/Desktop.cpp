@@ -38,6 +38,12 @@ std::shared_ptr<UserDefaults> openDefaults(const Options& options, const fs::pat
     return std::make_shared<UserDefaults>(options.supportDirectory ? own : UserDefaults::standardFile("brindle").value_or(own));
 }
 
+/// For the next window that is activated: there the toolkit looks for the token. Under X11 it goes by the time of the last event.
+void useActivationToken(const QString& token) {
+    if (!token.isEmpty() && QGuiApplication::platformName().startsWith(QLatin1String("wayland")))
+        qputenv("XDG_ACTIVATION_TOKEN", token.toUtf8());
+}
+
 PlatformDefaults platformDefaults() {
     PlatformDefaults defaults;
     defaults.systemFontSize = QApplication::font().pointSizeF();
@@ -81,10 +87,10 @@ AppDelegateEnvironment Desktop::environment(const Options& options, const fs::pa
     result.hasApplicationMenu = false;
     result.startsInBackground = options.background;
     const auto launchServices = std::make_shared<XDGLaunchServices>(folders);
-    // A program that is not installed can't be what links open in.
-    if (launchServices->isInstalled(std::string(SingleInstance::standardName) + ".desktop"))
+    // What links open in is the program as it is installed, with the user's own library.
+    if (!options.supportDirectory && launchServices->isInstalled(std::string(SingleInstance::standardName) + ".desktop"))
         result.bundleIdentifier = SingleInstance::standardName;
-    result.launcherApplicationBundleID = std::string(SingleInstance::standardName) + ".Launcher";
+    result.launcherApplicationBundleID = options.instanceName() + ".Launcher";
     result.sessions = {std::make_shared<SystemClock>(), defaultNetworkRoute(), std::make_shared<SiteIconDiscovery>(), true};
     result.defaults = _defaults;
     result.platformDefaults = platformDefaults();
@@ -103,23 +109,25 @@ AppDelegateEnvironment Desktop::environment(const Options& options, const fs::pa
     result.workspace = std::make_shared<QtWorkspace>();
     result.systemEvents = _systemEvents;
     result.launchServices = launchServices;
-    result.loginItem = std::make_shared<AutostartLoginItem>(folders, fromQString(QCoreApplication::applicationFilePath()));
+    result.loginItem = std::make_shared<AutostartLoginItem>(folders, options.command(fromQString(QCoreApplication::applicationFilePath())));
     result.runningApplications = std::make_shared<NoRunningApplications>();
     result.distributedNotificationCenter = std::make_shared<BusNotificationCenter>(bus);
     return result;
 }
 
 void Desktop::connectInstance(const SingleInstance& instance) {
-    connect(&instance, &SingleInstance::activated, this, [this] { show(); });
+    connect(&instance, &SingleInstance::activated, this, [this](const QString& token) { show(token); });
     connect(&instance, &SingleInstance::opened, this, [this](const QStringList& uris) {
         Options request;
         for (const QString& uri : uris)
             request.addURI(fromQString(uri));
         open(request);
     });
-    connect(&instance, &SingleInstance::actionActivated, this, [this](const QString& name) {
-        if (name == QLatin1String("show-feeds-browser"))
-            perform(actions::showFeedsBrowser);
+    connect(&instance, &SingleInstance::actionActivated, this, [this](const QString& name, const QString& token) {
+        if (name != QLatin1String("show-feeds-browser"))
+            return;
+        useActivationToken(token);
+        perform(actions::showFeedsBrowser);
     });
 }
 
@@ -189,7 +197,8 @@ void Desktop::watchNewsFeed() {
     connect(_systemEvents.get(), &LogindSystemEvents::urlEventHandlerSet, this, [this] { _newsFeed.fill(*_delegate->feedsManager()); });
 }
 
-void Desktop::show() {
+void Desktop::show(const QString& token) {
+    useActivationToken(token);
     if (QtApplication::hasVisibleWindow())
         QtApplication().activate();
     else if (isLaunched())

@@ -44,7 +44,7 @@ private:
     void connectStatusArea();
     void watchNewsFeed();
     std::string failingFeeds() const;
-    void show();
+    void show(const QString& token);
     void perform(std::string_view action);
     void open(const Options& request);
     void openFiles();

@@ -1,7 +1,9 @@
 #include "desktop/Options.hpp"
 
+#include "desktop/system/SingleInstance.hpp"
 #include "desktop/toolkit/Text.hpp"
 
+#include <QCryptographicHash>
 #include <QUrl>
 #include <array>
 
@@ -79,6 +81,21 @@ tl::expected<Options, std::string> Options::parse(const std::vector<std::string>
             return tl::unexpected("unknown option \"" + word + "\"");
     }
     return options;
+}
+
+std::string Options::instanceName() const {
+    const std::string standard = SingleInstance::standardName;
+    if (!supportDirectory)
+        return standard;
+    const QByteArray folder = QByteArray::fromStdString(supportDirectory->string());
+    return standard + ".folder" + QCryptographicHash::hash(folder, QCryptographicHash::Sha256).toHex().left(16).toStdString();
+}
+
+std::vector<std::string> Options::command(const std::string& program) const {
+    std::vector<std::string> words = {program};
+    if (supportDirectory)
+        words.insert(words.end(), {std::string(supportOption), supportDirectory->string()});
+    return words;
 }
 
 std::vector<std::string> Options::uris() const {

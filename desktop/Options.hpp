@@ -22,6 +22,11 @@ struct Options {
     static tl::expected<Options, std::string> parse(const std::vector<std::string>& words, const std::filesystem::path& folder);
     static std::string_view usage();
 
+    /// Of this instance of the program on the session bus: each support folder has one of its own.
+    std::string instanceName() const;
+    /// What starts this instance: `program`, and the arguments that have it use the same library.
+    std::vector<std::string> command(const std::string& program) const;
+
     /// Addresses and files as one list of URIs, for another process; `addURI` takes them there, and gives false for what is neither.
     std::vector<std::string> uris() const;
     bool addURI(const std::string& uri);

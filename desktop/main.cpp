@@ -1,4 +1,5 @@
 #include "desktop/Desktop.hpp"
+#include "desktop/DisplayServer.hpp"
 #include "desktop/toolkit/Images.hpp"
 #include "desktop/toolkit/Text.hpp"
 #include "desktop/windows/WebPluginLoader.hpp"
@@ -8,11 +9,11 @@
 #include "foundation/UserLocale.hpp"
 
 #include <QApplication>
-#include <QCryptographicHash>
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QMessageBox>
 #include <QTranslator>
+#include <array>
 #include <csignal>
 #include <iostream>
 
@@ -23,22 +24,6 @@ namespace fs = std::filesystem;
 
 constexpr int failed = 1;
 constexpr int wrongUsage = 2;
-
-/// Without one the toolkit would abort.
-bool hasDisplay() {
-    return !qEnvironmentVariableIsEmpty("DISPLAY") || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") ||
-           !qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM");
-}
-
-/// A library of its own makes another instance of the program.
-QString instanceName(const Options& options) {
-    const QString standard = QLatin1String(SingleInstance::standardName);
-    if (!options.supportDirectory)
-        return standard;
-    const QByteArray folder = QByteArray::fromStdString(options.supportDirectory->string());
-    return standard + QStringLiteral(".folder") +
-           QString::fromLatin1(QCryptographicHash::hash(folder, QCryptographicHash::Sha256).toHex().left(16));
-}
 
 QStringList toQStringList(const std::vector<std::string>& texts) {
     QStringList list;
@@ -61,16 +46,16 @@ int refuse(const std::string& text) {
     return failed;
 }
 
-int run(const Options& options) {
+int run(const Options& options, const QVariantMap& platformData) {
     const fs::path programs = fromQString(QCoreApplication::applicationDirPath());
     const fs::path resources = programs.parent_path() / "share" / "brindle";
     loadTexts(resources);
-    SingleInstance instance(QDBusConnection::sessionBus(), instanceName(options));
+    SingleInstance instance(QDBusConnection::sessionBus(), toQString(options.instanceName()));
     if (!instance.acquire()) {
         // A start at login beside a session that was restored: there is nothing to show.
         if (options.background && options.uris().empty())
             return 0;
-        const bool isDone = instance.handOver(toQStringList(options.uris()));
+        const bool isDone = instance.handOver(toQStringList(options.uris()), platformData);
         return isDone ? 0 : refuse(localized("Brindle runs already, and doesn't answer."));
     }
     const fs::path support = options.supportDirectory ? *options.supportDirectory : AppDelegate::applicationSupportDirectory();
@@ -93,22 +78,27 @@ int start(int argc, char** argv) {
         std::cout << (options->help ? Options::usage() : "brindle " BRINDLE_VERSION "\n");
         return 0;
     }
-    if (!hasDisplay()) {
-        std::cerr << "brindle: there is no display. brindle-cli works without one.\n";
+    std::optional<std::string> platform = displayserver::platform();
+    if (!platform) {
+        std::cerr << "brindle: " << displayserver::refusal() << " brindle-cli works without one.\n";
         return failed;
     }
+    // Before the toolkit takes it from the environment.
+    const QVariantMap platformData = SingleInstance::platformData();
     // A reader of the console that went away is no reason to end.
     std::signal(SIGPIPE, SIG_IGN);
     WebPluginLoader::prepareEnvironment();
-    int plainArguments = 1;
-    const QApplication application(plainArguments, argv);
+    std::string platformOption = "-platform";
+    std::array<char*, 4> toolkitWords = {argv[0], platformOption.data(), platform->data(), nullptr};
+    int toolkitWordCount = platform->empty() ? 1 : 3;
+    const QApplication application(toolkitWordCount, toolkitWords.data());
     QApplication::setApplicationName(QStringLiteral("brindle"));
     QApplication::setApplicationDisplayName(QStringLiteral("Brindle"));
     QApplication::setApplicationVersion(QStringLiteral(BRINDLE_VERSION));
     QApplication::setDesktopFileName(QLatin1String(SingleInstance::standardName));
     QApplication::setWindowIcon(images::icon(Image::named("brindle")));
     QApplication::setQuitOnLastWindowClosed(false);
-    return run(*options);
+    return run(*options, platformData);
 }
 
 } // namespace

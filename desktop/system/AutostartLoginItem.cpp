@@ -39,7 +39,10 @@ bool AutostartLoginItem::setEnabled(const std::string& bundleIdentifier, bool is
     const auto set = [&](std::string_view key, std::string_view value) { entry.set("Desktop Entry", key, value); };
     set("Type", "Application");
     set("Name", "Brindle");
-    set("Exec", quoted(_program.string()) + " --background");
+    std::string command;
+    for (const std::string& word : _command)
+        command += quoted(word) + ' ';
+    set("Exec", command + "--background");
     set("Icon", "org.brindle.Brindle");
     set("X-GNOME-Autostart-enabled", "true");
     return FileManager::createDirectory(folder) && FileManager::writeAtomically(file, entry.text());

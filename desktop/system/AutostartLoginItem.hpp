@@ -4,14 +4,15 @@
 #include "platform/LoginItem.hpp"
 
 #include <string>
+#include <vector>
 
 namespace brindle::desktop {
 
 /// Starts the program at login by an entry in the user's autostart folder (Desktop Application Autostart Specification). Thread: main.
 class AutostartLoginItem : public LoginItem {
 public:
-    /// `program` is what the entry starts, in the background.
-    AutostartLoginItem(XDGFolders folders, std::filesystem::path program) : _folders(std::move(folders)), _program(std::move(program)) {}
+    /// `command` is what the entry starts, in the background: the program and its arguments.
+    AutostartLoginItem(XDGFolders folders, std::vector<std::string> command) : _folders(std::move(folders)), _command(std::move(command)) {}
 
     [[nodiscard]] bool setEnabled(const std::string& bundleIdentifier, bool isEnabled) override;
 
@@ -20,7 +21,7 @@ public:
 
 private:
     const XDGFolders _folders;
-    const std::filesystem::path _program;
+    const std::vector<std::string> _command;
 };
 
 } // namespace brindle::desktop

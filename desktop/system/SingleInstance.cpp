@@ -44,13 +44,23 @@ bool SingleInstance::acquire() {
     return _isFirst;
 }
 
-bool SingleInstance::handOver(const QStringList& uris) const {
+bool SingleInstance::handOver(const QStringList& uris, const QVariantMap& platformData) const {
     QDBusMessage call =
         QDBusMessage::createMethodCall(_name, path(), interface, uris.isEmpty() ? QStringLiteral("Activate") : QStringLiteral("Open"));
     if (!uris.isEmpty())
         call << uris;
-    call << QVariantMap();
+    call << platformData;
     return _bus.call(call, QDBus::Block, answerLimit).type() == QDBusMessage::ReplyMessage;
+}
+
+QVariantMap SingleInstance::platformData() {
+    QVariantMap result;
+    for (const auto& [name, key] :
+        {std::pair("XDG_ACTIVATION_TOKEN", "activation-token"), std::pair("DESKTOP_STARTUP_ID", "desktop-startup-id")}) {
+        if (const QString value = qEnvironmentVariable(name); !value.isEmpty())
+            result.insert(QLatin1String(key), value);
+    }
+    return result;
 }
 
 } // namespace brindle::desktop

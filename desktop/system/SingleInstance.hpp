@@ -3,6 +3,7 @@
 #include <QDBusConnection>
 #include <QObject>
 #include <QStringList>
+#include <QVariantMap>
 
 namespace brindle::desktop {
 
@@ -21,16 +22,20 @@ public:
 
     /// Takes the name; false where another process has it.
     bool acquire();
-    /// Has the process that took the name open `uris`, or show itself where there are none; false where it doesn't answer.
-    bool handOver(const QStringList& uris) const;
+    /// Has the process that took the name open `uris`, or show itself where there are none; false where it doesn't answer. `platformData`
+    /// is what the desktop gave this process.
+    bool handOver(const QStringList& uris, const QVariantMap& platformData = {}) const;
+    /// From the environment, for another process: the permission to take a person's attention, by a token (XDG Activation, Startup
+    /// Notification Protocol Specification).
+    static QVariantMap platformData();
 
 signals:
-    /// The program was started again, or the desktop asks it to show itself.
-    void activated();
+    /// The program was started again, or the desktop asks it to show itself. `token` lets its window come to the front; it may be empty.
+    void activated(const QString& token);
     /// Addresses and files, as URIs.
     void opened(const QStringList& uris);
     /// One of the actions of the program's desktop entry.
-    void actionActivated(const QString& name);
+    void actionActivated(const QString& name, const QString& token);
 
 private:
     QString path() const;

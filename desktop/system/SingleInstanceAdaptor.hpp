@@ -17,18 +17,24 @@ public:
 
 public slots:
     // NOLINTBEGIN(readability-identifier-naming): names on the bus.
-    void Activate(const QVariantMap&) {
-        later([this] { emit _instance.activated(); });
+    void Activate(const QVariantMap& platformData) {
+        later([this, token = tokenOf(platformData)] { emit _instance.activated(token); });
     }
     void Open(const QStringList& uris, const QVariantMap&) {
         later([this, uris] { emit _instance.opened(uris); });
     }
-    void ActivateAction(const QString& name, const QVariantList&, const QVariantMap&) {
-        later([this, name] { emit _instance.actionActivated(name); });
+    void ActivateAction(const QString& name, const QVariantList&, const QVariantMap& platformData) {
+        later([this, name, token = tokenOf(platformData)] { emit _instance.actionActivated(name, token); });
     }
     // NOLINTEND(readability-identifier-naming)
 
 private:
+    /// Desktops that know only the older name have the token under that.
+    static QString tokenOf(const QVariantMap& platformData) {
+        const QString token = platformData.value(QStringLiteral("activation-token")).toString();
+        return token.isEmpty() ? platformData.value(QStringLiteral("desktop-startup-id")).toString() : token;
+    }
+
     /// The caller is answered first.
     template <typename Block>
     void later(Block block) {

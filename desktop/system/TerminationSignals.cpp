@@ -1,6 +1,7 @@
 #include "desktop/system/TerminationSignals.hpp"
 
 #include <atomic>
+#include <cerrno>
 #include <csignal>
 #include <fcntl.h>
 #include <unistd.h>
@@ -14,18 +15,22 @@ constexpr std::array<int, 3> signalNumbers = {SIGTERM, SIGINT, SIGHUP};
 /// Where the handler writes to; negative: nobody listens.
 std::atomic<int> writeEnd = -1;
 
-void handleSignal(int) {
-    const char byte = 0;
-    // A full pipe is one that tells already.
-    [[maybe_unused]] const ssize_t written = ::write(writeEnd, &byte, 1);
-}
-
 void install(void (*handler)(int)) {
     struct sigaction action = {};
     action.sa_handler = handler;
-    action.sa_flags = static_cast<int>(SA_RESTART | SA_RESETHAND);
+    action.sa_flags = SA_RESTART;
     for (const int number : signalNumbers)
         ::sigaction(number, &action, nullptr);
+}
+
+void handleSignal(int) {
+    const int formerError = errno;
+    // Whichever comes next ends the process at once.
+    install(SIG_DFL);
+    const char byte = 0;
+    // A full pipe is one that tells already.
+    [[maybe_unused]] const ssize_t written = ::write(writeEnd, &byte, 1);
+    errno = formerError;
 }
 
 } // namespace

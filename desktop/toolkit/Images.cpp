@@ -36,7 +36,12 @@ constexpr std::array<SystemImage, 4> systemImages = {{
 }};
 
 constexpr std::string_view defaultFeedIcon = "default_feed_icon";
-constexpr qreal slashWidth = 2; // points
+constexpr qreal slashWidth = 2;                           // points
+constexpr int largestPicture = (maximumPixels * 8) >> 20; // megabytes; 16 bits for each of four channels
+
+qint64 pixelCount(QSize size) {
+    return qint64(size.width()) * size.height();
+}
 
 QRectF fitted(QSizeF content, QSizeF frame) {
     const QSizeF size = content.scaled(frame, Qt::KeepAspectRatio);
@@ -174,17 +179,19 @@ std::optional<QImage> decoded(const std::string& bytes, QSize pixels) {
     QBuffer buffer(&view);
     if (!buffer.open(QIODevice::ReadOnly))
         return std::nullopt;
+    // A picture inside an icon file may be larger than the file's head says, which is all that is known before it is read.
+    QImageReader::setAllocationLimit(largestPicture);
     QImageReader reader(&buffer);
     selectPicture(reader, pixels);
     const QSize size = reader.size();
     if (reader.format() == "svg" || reader.format() == "svgz")
         reader.setScaledSize(size.scaled(pixels, Qt::KeepAspectRatio));
-    else if (size.isEmpty() || qint64(size.width()) * size.height() > maximumPixels)
+    else if (size.isEmpty() || pixelCount(size) > maximumPixels)
         return std::nullopt;
     else if (std::max(size.width(), size.height()) > maximumSide)
         reader.setScaledSize(size.scaled(maximumSide, maximumSide, Qt::KeepAspectRatio));
     QImage image = reader.read();
-    return image.isNull() ? std::nullopt : std::optional(std::move(image));
+    return image.isNull() || pixelCount(image.size()) > maximumPixels ? std::nullopt : std::optional(std::move(image));
 }
 
 } // namespace brindle::desktop::images

@@ -12,8 +12,8 @@ namespace {
 
 class AutostartLoginItemTest : public testing::Test {
 protected:
-    AutostartLoginItem item(const std::filesystem::path& program = "/usr/bin/brindle") const {
-        return {XDGFolders{_folder / "config", {}, {}, {}, {}}, program};
+    AutostartLoginItem item(const std::vector<std::string>& command = {"/usr/bin/brindle"}) const {
+        return {XDGFolders{_folder / "config", {}, {}, {}, {}}, command};
     }
     std::filesystem::path file() const { return _folder.path() / "config/autostart/org.brindle.Brindle.Launcher.desktop"; }
 
@@ -31,6 +31,12 @@ TEST_F(AutostartLoginItemTest, WritesAnEntryThatStartsTheProgramInTheBackground)
     EXPECT_EQ(entry.value("Desktop Entry", "Exec"), "\"/usr/bin/brindle\" --background");
 }
 
+TEST_F(AutostartLoginItemTest, WritesTheArgumentsOfTheProgram) {
+    ASSERT_TRUE(item({"/usr/bin/brindle", "--support-dir", "/home/a b"}).setEnabled(identifier, true));
+    const KeyFile entry(FileManager::contents(file()).value());
+    EXPECT_EQ(entry.value("Desktop Entry", "Exec"), R"("/usr/bin/brindle" "--support-dir" "/home/a b" --background)");
+}
+
 TEST_F(AutostartLoginItemTest, TakesTheEntryAwayAgain) {
     ASSERT_TRUE(item().setEnabled(identifier, true));
     EXPECT_TRUE(item().setEnabled(identifier, false));
@@ -46,7 +52,7 @@ TEST_F(AutostartLoginItemTest, QuotesTheProgramsPath) {
 TEST_F(AutostartLoginItemTest, FailsWhereTheFolderCantBeMade) {
     ASSERT_TRUE(FileManager::writeAtomically(_folder / "config", "a file"));
     EXPECT_FALSE(item().setEnabled(identifier, true));
-    AutostartLoginItem homeless(XDGFolders{}, "/usr/bin/brindle");
+    AutostartLoginItem homeless(XDGFolders{}, {"/usr/bin/brindle"});
     EXPECT_FALSE(homeless.setEnabled(identifier, true));
 }
 

@@ -17,6 +17,20 @@ std::string png(int side, const QColor& color) {
     return bytes.toStdString();
 }
 
+/// An icon file with one picture, of which it says that it is of 16 by 16.
+std::string ico(const std::string& picture) {
+    const auto little = [](std::size_t value, int bytes) {
+        std::string text;
+        for (int i = 0; i < bytes; ++i)
+            text += static_cast<char>(value >> (8 * i) & 0xff);
+        return text;
+    };
+    const std::string head = little(0, 2) + little(1, 2) + little(1, 2);
+    const std::string entry =
+        little(16, 1) + little(16, 1) + little(0, 2) + little(1, 2) + little(32, 2) + little(picture.size(), 4) + little(6 + 16, 4);
+    return head + entry + picture;
+}
+
 bool isBlank(const QImage& image) {
     for (int y = 0; y < image.height(); ++y) {
         for (int x = 0; x < image.width(); ++x) {
@@ -69,6 +83,12 @@ TEST(ImagesTest, DrawTheDefaultIconOfFeedsForBytesThatAreNoImage) {
 TEST(ImagesTest, RefuseASmallFileOfManyPixels) {
     EXPECT_TRUE(images::decoded(png(2048, Qt::blue), QSize(16, 16)));
     EXPECT_FALSE(images::decoded(png(2049, Qt::blue), QSize(16, 16)));
+}
+
+TEST(ImagesTest, RefuseALargePictureInAnIconFile) {
+    EXPECT_TRUE(images::decoded(ico(png(16, Qt::blue)), QSize(16, 16)));
+    EXPECT_FALSE(images::decoded(ico(png(2049, Qt::blue)), QSize(16, 16)));
+    EXPECT_FALSE(images::decoded(ico(png(12000, Qt::blue)), QSize(16, 16)));
 }
 
 TEST(ImagesTest, DrawASmallDrawingOfAnySize) {

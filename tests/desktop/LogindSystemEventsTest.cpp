@@ -5,6 +5,7 @@
 
 #include <QSignalSpy>
 #include <gmock/gmock.h>
+#include <unistd.h>
 
 namespace brindle::desktop {
 
@@ -44,6 +45,9 @@ protected:
         PrivateBus::call(_observer, service, managerPath, mock, QStringLiteral("AddSession"),
             {QStringLiteral("c7"), QStringLiteral("seat0"), 1000U, QStringLiteral("ada"), true});
         qputenv("XDG_SESSION_ID", "c7");
+        watch();
+    }
+    void watch() {
         _events = std::make_unique<LogindSystemEvents>(_bus.connect());
         const QSignalSpy found(_events.get(), &LogindSystemEvents::sessionFound);
         ASSERT_TRUE(runEventLoop([&] { return !found.isEmpty(); }));
@@ -108,6 +112,34 @@ TEST_F(LogindSystemEventsTest, TellsNobodyWhoWasRemoved) {
     sleep(false);
     ASSERT_TRUE(isTold(1));
     EXPECT_THAT(_told->log, ElementsAre("wake"));
+}
+
+TEST_F(LogindSystemEventsTest, BelongsToTheSessionThatTheUserHasADisplayInWhereItIsInNone) {
+    _logind = _bus.startMock(QStringLiteral("logind"), service);
+    const auto callMock = [this](const char* method, const QVariantList& arguments) {
+        PrivateBus::call(_observer, service, managerPath, mock, QLatin1String(method), arguments);
+    };
+    callMock("AddSession", {QStringLiteral("c7"), QStringLiteral("seat0"), static_cast<uint>(::getuid()), QStringLiteral("ada"), true});
+    callMock("AddMethod", {QStringLiteral("org.freedesktop.login1.Manager"), QStringLiteral("GetUser"), QStringLiteral("u"),
+                              QStringLiteral("o"), QStringLiteral(R"(
+from dbusmock import mockobject
+path = "/org/freedesktop/login1/user/%u" % args[0]
+mockobject.objects[path].props["org.freedesktop.login1.User"]["Display"] = ("c7", dbus.ObjectPath("/org/freedesktop/login1/session/c7"))
+ret = dbus.ObjectPath(path)
+)")});
+    qunsetenv("XDG_SESSION_ID");
+    watch();
+    setActive(false);
+    ASSERT_TRUE(isTold(1));
+    EXPECT_THAT(_told->log, ElementsAre("resign"));
+}
+
+TEST_F(LogindSystemEventsTest, NeverSleepsWithoutLogind) {
+    LogindSystemEvents events(_bus.connect());
+    events.addObserver(Event::willSleep, _told);
+    // An answer on the same bus: those before it have come as well.
+    PrivateBus::property(_bus.connect(), service, managerPath, QStringLiteral("org.freedesktop.login1.Manager"), QStringLiteral("Docked"));
+    EXPECT_THAT(_told->log, ElementsAre());
 }
 
 TEST_F(LogindSystemEventsTest, KeepsAddressesUntilSomebodyTakesThem) {

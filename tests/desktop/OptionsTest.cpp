@@ -58,6 +58,19 @@ TEST(OptionsTest, EndAtTwoHyphens) {
     EXPECT_EQ(Options::parse({"--", "--background.opml"}, "/srv")->files.front(), "/srv/--background.opml");
 }
 
+TEST(OptionsTest, NameAnInstanceForEachSupportFolder) {
+    const auto nameFor = [](const std::vector<std::string>& words) { return Options::parse(words, "/")->instanceName(); };
+    EXPECT_EQ(nameFor({"--background"}), "org.brindle.Brindle");
+    EXPECT_EQ(nameFor({"--support-dir", "/a"}), nameFor({"--support-dir=a", "feed:b.example"}));
+    EXPECT_NE(nameFor({"--support-dir", "/a"}), nameFor({"--support-dir", "/b"}));
+    EXPECT_NE(nameFor({"--support-dir", "/a"}), nameFor({}));
+}
+
+TEST(OptionsTest, TellWhatStartsTheSameInstance) {
+    EXPECT_EQ(Options::parse({"feed:a.example"}, "/")->command("/b"), std::vector<std::string>{"/b"});
+    EXPECT_EQ(Options::parse({"--support-dir", "x"}, "/srv")->command("/b"), (std::vector<std::string>{"/b", "--support-dir", "/srv/x"}));
+}
+
 TEST(OptionsTest, SurviveTheWayToAnotherProcess) {
     const auto sent = Options::parse({"feed:a.example", "/srv/ä ö.opml"}, "/");
     ASSERT_TRUE(sent);

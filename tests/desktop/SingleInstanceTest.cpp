@@ -58,10 +58,11 @@ TEST(SingleInstanceTest, IsToldToShowItselfAndOfActions) {
     const QSignalSpy activated(&instance, &SingleInstance::activated);
     const QSignalSpy actions(&instance, &SingleInstance::actionActivated);
     const QDBusConnection other = bus.connect();
-    PrivateBus::call(other, name, path, interface, QStringLiteral("Activate"), {QVariantMap()});
+    PrivateBus::call(other, name, path, interface, QStringLiteral("Activate"), {QVariantMap{{"activation-token", "t"}}});
     PrivateBus::call(other, name, path, interface, QStringLiteral("ActivateAction"),
         {QStringLiteral("show-feeds-browser"), QVariantList(), QVariantMap()});
     ASSERT_TRUE(runEventLoop([&] { return !activated.isEmpty() && !actions.isEmpty(); }));
+    EXPECT_EQ(activated[0][0].toString(), QStringLiteral("t"));
     EXPECT_EQ(actions[0][0].toString(), QStringLiteral("show-feeds-browser"));
 }
 

@@ -18,4 +18,15 @@ TEST(TerminationSignalsTest, TellOfASignalInTheEventLoop) {
     }
 }
 
+TEST(TerminationSignalsTest, LetASecondOneOfAnyKindEndTheProcess) {
+    GTEST_FLAG_SET(death_test_style, "threadsafe");
+    const auto raiseBoth = [](int first, int second) {
+        const TerminationSignals watched;
+        ::raise(first);
+        ::raise(second);
+    };
+    EXPECT_EXIT(raiseBoth(SIGINT, SIGTERM), testing::KilledBySignal(SIGTERM), "");
+    EXPECT_EXIT(raiseBoth(SIGTERM, SIGTERM), testing::KilledBySignal(SIGTERM), "");
+}
+
 } // namespace brindle::desktop

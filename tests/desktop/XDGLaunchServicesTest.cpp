@@ -63,6 +63,14 @@ TEST_F(XDGLaunchServicesTest, TakesAnAssociationWhereNoListNamesADefault) {
     EXPECT_EQ(services().defaultHandler("feed"), "org.b.Reader");
 }
 
+TEST_F(XDGLaunchServicesTest, TakesNoAssociationThatAnEarlierListRemoves) {
+    install("org.a.Reader");
+    install("org.b.Reader");
+    write("config/mimeapps.list", "[Removed Associations]\nx-scheme-handler/feed=org.a.Reader.desktop;\n");
+    write("etc/mimeapps.list", "[Added Associations]\nx-scheme-handler/feed=org.a.Reader.desktop;org.b.Reader.desktop;\n");
+    EXPECT_EQ(services().defaultHandler("feed"), "org.b.Reader");
+}
+
 TEST_F(XDGLaunchServicesTest, WritesTheDefaultAndKeepsEverythingElse) {
     install("org.a.Reader");
     write("config/mimeapps.list",
