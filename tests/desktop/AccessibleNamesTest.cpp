@@ -99,7 +99,7 @@ TEST_F(AccessibleNamesTest, AreThereInThePlayer) {
 }
 
 TEST_F(AccessibleNamesTest, AreThereInTheFirstWindow) {
-    const auto splash = makeSplashWindow({environment.defaults, {}});
+    const auto splash = makeSplashWindow({environment.defaults, {}}, std::make_shared<StatusMenu>());
     splash->show();
     expectNames(shown("Welcome to Brindle"));
     splash->close();
