@@ -15,8 +15,8 @@ namespace brindle::desktop {
 /// Shows a menu of the program. Each time that it opens it takes the items as they are then, after who takes their actions was asked, and
 /// never changes while it is open; a submenu's view is made when somebody points at its item. An item that has an action beside its submenu
 /// is chosen by a click or Enter; pointing at it, or the arrow key, opens the submenu. Who types letters goes to the next item that begins
-/// with them. Titles are shown whole as far as the screen is wide. Of a menu with more items than can be laid out at once, each part but the
-/// first is a submenu of the one before. Thread: main.
+/// with them. Titles are shown whole as far as the screen is wide. Of a menu with more items than can be laid out at once, each part but
+/// the first is a submenu of the one before. Thread: main.
 class MenuView : public QMenu {
     Q_OBJECT
 
