@@ -23,6 +23,10 @@ void registerDBusTypes() {
     qDBusRegisterMetaType<DBusMenuEvent>();
     qDBusRegisterMetaType<DBusMenuEvents>();
     qDBusRegisterMetaType<DBusMenuLayout>();
+    // The bus looks the arguments of signals and slots up by the names that stand there.
+    qRegisterMetaType<DBusMenuPropertiesList>("brindle::desktop::DBusMenuPropertiesList");
+    qRegisterMetaType<DBusMenuKeysList>("brindle::desktop::DBusMenuKeysList");
+    qRegisterMetaType<DBusMenuEvents>("brindle::desktop::DBusMenuEvents");
 }
 
 QDBusArgument& operator<<(QDBusArgument& argument, const DBusImage& image) {

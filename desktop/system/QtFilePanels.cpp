@@ -53,6 +53,8 @@ QComboBox* addOptions(QFileDialog& dialog, const std::vector<std::string>& optio
 void QtFilePanels::beginOpenPanel(std::string_view fileType, Opened opened) {
     QFileDialog* const dialog = makeDialog(fileType);
     dialog->setFileMode(QFileDialog::ExistingFile);
+    // The desktop's own panel has no other.
+    dialog->setWindowTitle(QFileDialog::tr("Open"));
     QObject::connect(
         dialog, &QDialog::finished, dialog, [dialog, opened = std::move(opened)](int result) { opened(chosenFile(*dialog, result)); });
     dialog->show();

@@ -1,11 +1,8 @@
 #include "desktop/system/MenuExport.hpp"
 
-#include "desktop/system/StatusNotifierItem.hpp"
 #include "desktop/toolkit/MenuView.hpp"
 #include "desktop/toolkit/Text.hpp"
 #include "tests/desktop/EventLoop.hpp"
-#include "tests/desktop/PrivateBus.hpp"
-#include "tests/desktop/StatusNotifierWatcherFake.hpp"
 #include "tests/fakes/ActionHandlerFake.hpp"
 #include "tests/fakes/MenuDelegateFake.hpp"
 
@@ -296,38 +293,6 @@ TEST_F(MenuExportTest, SurvivesAMenuOfAnyDepth) {
     for (; !layout.children.isEmpty(); ++depth)
         layout = child(layout, 0);
     EXPECT_EQ(depth, 16);
-}
-
-TEST_F(MenuExportTest, AnswersOnTheBus) {
-    PrivateBus bus;
-    const QDBusConnection panel = bus.connect();
-    StatusNotifierWatcherFake watcher(panel);
-    StatusNotifierItem item(bus.connect());
-    ASSERT_TRUE(runEventLoop([&] { return item.isShown(); }));
-    add("Item", "doIt:");
-    make();
-    item.setMenu(_export);
-    const auto call = [&](const char* method, const QVariantList& arguments) {
-        return PrivateBus::call(panel, watcher.items.constFirst(), QLatin1String(StatusNotifierItem::menuPath),
-            QStringLiteral("com.canonical.dbusmenu"), QLatin1String(method), arguments);
-    };
-    const QDBusMessage answer = call("GetLayout", {0, -1, QStringList()});
-    ASSERT_EQ(answer.type(), QDBusMessage::ReplyMessage) << answer.errorMessage().toStdString();
-    ASSERT_EQ(answer.signature(), QStringLiteral("u(ia{sv}av)"));
-    const auto layout = qdbus_cast<DBusMenuLayout>(answer.arguments().at(1));
-    ASSERT_EQ(layout.children.size(), 1);
-    const auto first = qdbus_cast<DBusMenuLayout>(layout.children.constFirst().value<QDBusArgument>());
-    EXPECT_EQ(first.properties.value("label"), "Item");
-    _menu->delegate = _delegate;
-    call("AboutToShow", {0});
-    const QVariant noData = QVariant::fromValue(QDBusVariant(0));
-    call("Event", {0, "opened", noData, 0U});
-    EXPECT_THAT(_delegate->log, ElementsAre("menuWillOpen"));
-    call("Event", {0, "closed", noData, 0U});
-    EXPECT_THAT(_delegate->log, ElementsAre("menuWillOpen", "menuDidClose"));
-    EXPECT_EQ(call("Event", {first.id, "clicked", noData, 0U}).type(), QDBusMessage::ReplyMessage);
-    ASSERT_TRUE(runEventLoop([this] { return !_handler->log.empty(); }));
-    EXPECT_THAT(_handler->log, ElementsAre("doIt:"));
 }
 
 } // namespace brindle::desktop
