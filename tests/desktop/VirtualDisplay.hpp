@@ -9,10 +9,11 @@ namespace brindle::desktop {
 class VirtualDisplay {
 public:
     VirtualDisplay() {
-        // It takes a number that is free, and tells it once it can be used.
-        _server.start(
-            QStringLiteral("Xvfb"), {QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-screen"), QStringLiteral("0"),
-                                        QStringLiteral("1024x768x24"), QStringLiteral("-nolisten"), QStringLiteral("tcp")});
+        // It takes a number that is free, and tells it once it can be used. It doesn't begin anew whenever its last client goes, for who
+        // comes just then would be refused.
+        _server.start(QStringLiteral("Xvfb"),
+            {QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-screen"), QStringLiteral("0"),
+                QStringLiteral("1024x768x24"), QStringLiteral("-nolisten"), QStringLiteral("tcp"), QStringLiteral("-noreset")});
         while (!_server.canReadLine() && _server.waitForReadyRead()) {
         }
         _number = QString::fromLatin1(_server.readLine()).trimmed();
