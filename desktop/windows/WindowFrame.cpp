@@ -54,8 +54,11 @@ std::optional<QRect> frameOf(const QStringList& words) {
 /// Leaves room for a title, by which a window is moved: a desktop that tells nobody where windows stand has them all in its corner.
 QRect withRoomForTitle(QRect frame) {
     const QScreen* const screen = QGuiApplication::screenAt(frame.center());
-    if (screen)
-        frame.moveTop(std::max(frame.top(), screen->availableGeometry().top() + titleHeight));
+    const QRect room = screen ? screen->availableGeometry().adjusted(0, titleHeight, 0, 0) : frame;
+    if (frame.top() < room.top()) {
+        frame.moveTop(room.top());
+        frame.setBottom(std::min(frame.bottom(), room.bottom()));
+    }
     return frame;
 }
 

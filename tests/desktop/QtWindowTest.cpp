@@ -162,6 +162,9 @@ TEST_F(QtWindowTest, AFrameLargerThanTheDesktopIsMadeToFit) {
     defaults->set("NSWindow Frame Name", "50 60 " + std::to_string(room.width() + 100) + " 300");
     window->setFrameUsingName("Name");
     EXPECT_EQ(window->widget().geometry(), QRect(room.left(), 60, room.width(), 300));
+    defaults->set("NSWindow Frame Name", "0 0 300 " + std::to_string(room.height() + 100));
+    window->setFrameUsingName("Name");
+    EXPECT_EQ(window->widget().geometry().bottom(), room.bottom());
 }
 
 TEST_F(QtWindowTest, AWindowLargerThanTheScreenOpensAsLargeAsIt) {
