@@ -68,7 +68,8 @@ void EnginePageView::connectPage() {
     connect(_page, &QWebEnginePage::loadProgress, this, [this](int percent) {
         if (_timeout.isActive())
             _timeout.start();
-        if (!_page->hasRefused())
+        // All of a page is told before its end is, which may be after the next one has begun.
+        if (!_page->hasRefused() && percent < wholePercent)
             setProgress(percent / wholePercent);
     });
     connect(_page, &QWebEnginePage::urlChanged, this, &EnginePageView::showBackground);
