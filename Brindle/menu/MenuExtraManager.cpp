@@ -30,13 +30,23 @@ void MenuExtraManager::updateMenu() {
         _isMenuUpdateRequested = true;
     } else {
         // Out of the present call, which may be handling an event of this very menu. Kept as is: whether the menu is open is not asked
-        // again, and each request has a rebuild of its own.
+        // again.
+        ++_queuedRebuilds;
         DispatchQueue::main().async([manager = weak_from_this()] {
             if (const auto self = manager.lock())
-                self->rebuild();
+                self->rebuildIfLast();
         });
     }
     updateDockBadge(*_environment.feedsManager, *_environment.defaults, *_environment.dockTile);
+}
+
+/// Of many that stand in line only the last is seen by anybody: to mark all of a large library, which asks for one after each entry, must
+/// not keep a person waiting.
+void MenuExtraManager::rebuildIfLast() {
+    // Kept as is: a line for each request.
+    Console::print("Building Menu...");
+    if (--_queuedRebuilds == 0)
+        rebuild();
 }
 
 void MenuExtraManager::rebuild() {
@@ -148,7 +158,6 @@ void MenuExtraManager::markAll(std::string_view mark, const Action& action) {
 }
 
 void MenuExtraManager::buildMenu(const std::shared_ptr<MenuRebuild>& rebuild) {
-    Console::print("Building Menu...");
     const UserDefaults& defaults = *_environment.defaults;
     const FeedsManager::Feeds& feeds = _environment.feedsManager->feeds;
     _menuItemRepresentations.clear();

@@ -51,6 +51,7 @@ private:
     void handleUpdateAll();
     void markAll(std::string_view mark, const Action& action);
 
+    void rebuildIfLast();
     void rebuild();
     void buildMenu(const std::shared_ptr<MenuRebuild>& rebuild);
     void showStatus(std::size_t unreadCount);
@@ -65,6 +66,7 @@ private:
     std::shared_ptr<Menu> _menu = std::make_shared<Menu>();
     bool _isMenuOpen = false;
     bool _isMenuUpdateRequested = false;
+    std::size_t _queuedRebuilds = 0;
     std::shared_ptr<Menu> _generalMenuSubmenu; ///< made once
     CachedMenuItems _cachedMenuItems;
     MenuItemRepresentations _menuItemRepresentations; ///< of the menu as it is

@@ -37,12 +37,23 @@ TEST_F(MenuExtraManagerUpdateTest, DoesNothingWhenAMenuClosesThatNobodyAskedToUp
     EXPECT_EQ(rebuilds(), 0U);
 }
 
-TEST_F(MenuExtraManagerUpdateTest, RebuildsForEachRequestWhileTheMenuIsClosed) {
+TEST_F(MenuExtraManagerUpdateTest, PrintsALineForEachRequestWhileTheMenuIsClosed) {
     menuExtraManager->updateMenu();
     menuExtraManager->updateMenu();
     EXPECT_EQ(rebuilds(), 0U) << "not within the request";
     RunLoop::main().runPending();
     EXPECT_EQ(rebuilds(), 2U);
+}
+
+TEST_F(MenuExtraManagerUpdateTest, BuildsTheMenuOnceForRequestsThatStandInLine) {
+    statusItem->log.clear();
+    for (int i = 0; i < 3; ++i)
+        menuExtraManager->updateMenu();
+    RunLoop::main().runPending();
+    EXPECT_EQ(std::count(statusItem->log.begin(), statusItem->log.end(), "setImage menu_feed"), 1);
+    menuExtraManager->updateMenu();
+    RunLoop::main().runPending();
+    EXPECT_EQ(std::count(statusItem->log.begin(), statusItem->log.end(), "setImage menu_feed"), 2);
 }
 
 TEST_F(MenuExtraManagerUpdateTest, DoesNotHoldBackARebuildThatWasQueuedBeforeTheMenuOpened) {
