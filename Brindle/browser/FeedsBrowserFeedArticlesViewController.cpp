@@ -29,6 +29,10 @@ bool isAtOrBelow(const std::shared_ptr<Feed>& feed, const std::shared_ptr<Feed>&
     return each != nullptr;
 }
 
+bool isSameArticle(const std::shared_ptr<FeedItemArticle>& one, const std::shared_ptr<FeedItemArticle>& other) {
+    return one == other || one->articleStateKey() == other->articleStateKey();
+}
+
 /// The list with what a feed has by the same keys in place of those of its articles that a parse has replaced. What it has no more stays.
 Self::Articles renewed(Self::Articles list, const std::shared_ptr<FeedItem>& feed) {
     const std::weak_ptr<FeedItem> parsed = feed;
@@ -123,9 +127,10 @@ void FeedsBrowserFeedArticlesViewController::setArticles(Articles articles, std:
     reloadArticles();
 }
 
-/// Lists other articles in place of those there are, and reloads the rows that differ.
+/// Lists other articles in place of those there are, and reloads the rows that differ; all of them where an article has another place, so
+/// that what is selected goes with it.
 void FeedsBrowserFeedArticlesViewController::updateList(Articles articles) {
-    if (articles.size() != _feedItemArticles.size())
+    if (!std::equal(articles.begin(), articles.end(), _feedItemArticles.begin(), _feedItemArticles.end(), isSameArticle))
         return setArticles(std::move(articles), _feed);
     const Articles before = std::exchange(_feedItemArticles, std::move(articles));
     const auto table = articlesTableView.lock();

@@ -103,6 +103,7 @@ void FeedsBrowserFeedsViewController::removeFeed(const std::shared_ptr<Feed>& fe
     if (isSelected)
         setSelectedFeed(nullptr);
     _environment.refreshInterface();
+    feedsOutlineViewDataController->reloadCounts(parent);
     if (isSelected)
         sendCollection({});
 }

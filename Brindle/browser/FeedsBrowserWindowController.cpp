@@ -65,10 +65,21 @@ void FeedsBrowserWindowController::showWindow() {
     assertMainThread();
     FeedsBrowserFeedsViewController& feeds = _splitViewController->feedsViewController();
     _splitViewController->splitViewItems.front().setAllowsFullHeightLayout(true);
-    if (const auto feed = selectedFeed.lock(); feed && feed != feeds.selectedFeed())
-        feeds.reveal(feed);
+    if (const auto feed = selectedFeed.lock()) {
+        endSearch();
+        if (feed != feeds.selectedFeed())
+            feeds.reveal(feed);
+    }
     _window->show();
     _window->setTitle(std::string(windowTitle));
+}
+
+/// While one is on, the feeds are hidden.
+void FeedsBrowserWindowController::endSearch() {
+    if (searchField.stringValue().empty())
+        return;
+    searchField.setStringValue({});
+    controlTextDidChange();
 }
 
 void FeedsBrowserWindowController::removeSelectedFeed() {

@@ -48,6 +48,7 @@ public:
 
 private:
     void buildFeedPopUp();
+    void endSearch();
 
     const FeedsBrowserEnvironment _environment;
     const std::shared_ptr<Window> _window;

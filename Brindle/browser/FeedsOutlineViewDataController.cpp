@@ -209,6 +209,11 @@ void FeedsOutlineViewDataController::reveal(const std::shared_ptr<Feed>& feed) {
     }
 }
 
+void FeedsOutlineViewDataController::reloadCounts(const std::shared_ptr<FeedGroup>& group) {
+    reloadCollectionRows();
+    reloadRowAndAncestors(group);
+}
+
 void FeedsOutlineViewDataController::removeRow(std::size_t index, const std::shared_ptr<FeedGroup>& parent) {
     const auto view = outlineView.lock();
     if (!view)

@@ -56,6 +56,8 @@ public:
     std::vector<OutlineItem> selectedItems() const;
     /// Expands what is above the entry, selects its row alone, and scrolls to it.
     void reveal(const std::shared_ptr<Feed>& feed);
+    /// Of the collections, a group and all above it; `group` may be null.
+    void reloadCounts(const std::shared_ptr<FeedGroup>& group);
     /// Clears the row of an entry that was taken from that place of the library.
     void removeRow(std::size_t index, const std::shared_ptr<FeedGroup>& parent);
     /// The articles of the collection that a row stands for; null for any other row.

@@ -173,6 +173,14 @@ TEST_F(FeedsBrowserFeedArticlesViewControllerTest, ListsTheNewArticlesOfAParsedF
     EXPECT_THAT(takeCalls(), ElementsAre("reloadData"));
 }
 
+TEST_F(FeedsBrowserFeedArticlesViewControllerTest, ReloadsTheTableWhereArticlesHaveOtherPlaces) {
+    showFeed();
+    parse(*item, {"zero", "one"});
+    notices::post(notices::didReceiveNewArticles, item);
+    EXPECT_THAT(shown(), ElementsAre("zero", "one"));
+    EXPECT_THAT(takeCalls(), ElementsAre("reloadData"));
+}
+
 TEST_F(FeedsBrowserFeedArticlesViewControllerTest, ListsTheNewArticlesOfAParsedFeedBelowItsGroup) {
     const auto group = add(FeedGroup::make("Group"));
     const auto below = add(makeItem("Below", {"three"}), add(FeedGroup::make("Inner"), group));

@@ -44,6 +44,15 @@ TEST_F(FeedsBrowserSearchTest, ClearsTheArticleWhenTheTermIsGone) {
     EXPECT_EQ(article->article(), nullptr);
 }
 
+TEST_F(FeedsBrowserSearchTest, EndsForAFeedThatTheWindowIsShownFor) {
+    search("one");
+    controller.selectedFeed = x;
+    controller.showWindow();
+    EXPECT_EQ(controller.searchField.stringValue(), "");
+    EXPECT_FALSE(isFeedsListCollapsed());
+    EXPECT_THAT(listed(), ElementsAre("x one", "x two"));
+}
+
 TEST_F(FeedsBrowserSearchTest, IsEmptyAfterASearchWhileACollectionIsSelected) {
     collections->refreshCollections();
     outline->click(outline->itemAtRow(2));

@@ -145,8 +145,8 @@ TEST_F(FeedsBrowserWindowControllerTest, DeletesTheSelectedFeedWhenThePersonConf
     becomeKey();
     outline->click(b);
     environment.responderChain->perform(Action{browseractions::deleteFeed});
-    EXPECT_THAT(
-        takeCalls(), ElementsAre("runModal Delete Feed?", "beginUpdates", "removeItem 2 in FEEDS", "endUpdates", "refreshInterface"));
+    EXPECT_THAT(takeCalls(), ElementsAre("runModal Delete Feed?", "beginUpdates", "removeItem 2 in FEEDS", "endUpdates", "refreshInterface",
+                                 "reloadItem today", "reloadItem unread", "reloadItem saved"));
     EXPECT_EQ(alerts->alerts.front(), (Alert{"Delete Feed?", "This action cannot be undone.", {"Yes", "Cancel"}}));
     EXPECT_THAT(names(manager->feeds), ElementsAre("Group", "-"));
     EXPECT_THAT(listed(), IsEmpty());
@@ -159,7 +159,8 @@ TEST_F(FeedsBrowserWindowControllerTest, RemovesAnEntryThatIsNotSelectedAndKeeps
     outline->click(b);
     takeCalls();
     feeds->removeFeed(separator);
-    EXPECT_THAT(takeCalls(), ElementsAre("beginUpdates", "removeItem 1 in FEEDS", "endUpdates", "refreshInterface"));
+    EXPECT_THAT(takeCalls(), ElementsAre("beginUpdates", "removeItem 1 in FEEDS", "endUpdates", "refreshInterface", "reloadItem today",
+                                 "reloadItem unread", "reloadItem saved"));
     EXPECT_THAT(names(manager->feeds), ElementsAre("Group", "b"));
     EXPECT_EQ(feeds->selectedFeed(), b);
     EXPECT_TRUE(toolbarItem->isEnabled());
@@ -194,7 +195,8 @@ TEST_F(FeedsBrowserWindowControllerTest, RemovesByTheToolbarWithoutAQuestion) {
     outline->click(x);
     takeCalls();
     controller.removeSelectedFeed();
-    EXPECT_THAT(takeCalls(), ElementsAre("beginUpdates", "removeItem 0 in Group", "endUpdates", "refreshInterface"));
+    EXPECT_THAT(takeCalls(), ElementsAre("beginUpdates", "removeItem 0 in Group", "endUpdates", "refreshInterface", "reloadItem today",
+                                 "reloadItem unread", "reloadItem saved", "reloadItem Group"));
     EXPECT_THAT(group->feeds(), IsEmpty());
     EXPECT_THAT(alerts->alerts, IsEmpty());
     controller.removeSelectedFeed();
@@ -206,8 +208,8 @@ TEST_F(FeedsBrowserWindowControllerTest, EmptiesTheListAfterARemovalWhenAllElseK
     takeCalls();
     table->log = log;
     controller.removeSelectedFeed();
-    EXPECT_THAT(takeCalls(),
-        ElementsAre("beginUpdates", "removeItem 2 in FEEDS", "endUpdates", "refreshInterface", "show sourceColumn", "reloadData"));
+    EXPECT_THAT(takeCalls(), ElementsAre("beginUpdates", "removeItem 2 in FEEDS", "endUpdates", "refreshInterface", "reloadItem today",
+                                 "reloadItem unread", "reloadItem saved", "show sourceColumn", "reloadData"));
 }
 
 TEST_F(FeedsBrowserWindowControllerTest, EndsTheTimerOfARemovedFeed) {
