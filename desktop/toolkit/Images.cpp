@@ -89,6 +89,26 @@ void drawSlash(QPainter& painter, QSize pixels, qreal scale) {
     painter.drawLine(QPointF(0, pixels.height()), QPointF(pixels.width(), 0));
 }
 
+/// Whether each dash pattern of a drawing says that there is none.
+bool hasNoDashes(std::string_view text) {
+    constexpr std::string_view name = "dasharray";
+    for (auto place = text.find(name); place != std::string_view::npos; place = text.find(name, place + 1)) {
+        const auto value = text.find_first_not_of(" :='\"", place + name.size());
+        if (value == std::string_view::npos || !text.substr(value).starts_with("none"))
+            return false;
+    }
+    return true;
+}
+
+/// Whether a drawing (SVG) can take no more work than its length: a few bytes may repeat others any number of times, cut lines into
+/// millions of dashes, or unpack to gigabytes.
+bool isModestDrawing(std::string_view bytes) {
+    constexpr std::size_t longest = 32 * 1024;
+    constexpr std::array<std::string_view, 5> costly = {"<use", ":use", "<image", "<!ENTITY", "&#"};
+    return bytes.size() <= longest && bytes.find("<svg") != std::string_view::npos && hasNoDashes(bytes) &&
+           std::none_of(costly.begin(), costly.end(), [&](std::string_view each) { return bytes.find(each) != std::string_view::npos; });
+}
+
 /// Goes to the picture that is the smallest of those that are large enough, else to the largest.
 void selectPicture(QImageReader& reader, QSize wanted) {
     const int count = std::min(reader.imageCount(), 64);
@@ -182,9 +202,13 @@ std::optional<QImage> decoded(const std::string& bytes, QSize pixels) {
     // A picture inside an icon file may be larger than the file's head says, which is all that is known before it is read.
     QImageReader::setAllocationLimit(largestPicture);
     QImageReader reader(&buffer);
+    const bool isDrawing = reader.format() == "svg" || reader.format() == "svgz";
+    // Before its size is asked, for which it is read.
+    if (isDrawing && !isModestDrawing(bytes))
+        return std::nullopt;
     selectPicture(reader, pixels);
     const QSize size = reader.size();
-    if (reader.format() == "svg" || reader.format() == "svgz")
+    if (isDrawing)
         reader.setScaledSize(size.scaled(pixels, Qt::KeepAspectRatio));
     else if (size.isEmpty() || pixelCount(size) > maximumPixels)
         return std::nullopt;

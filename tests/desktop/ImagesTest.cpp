@@ -55,6 +55,21 @@ TEST(ImagesTest, DrawEveryNamedImageOfTheProgram) {
     EXPECT_FALSE(isBlank(drawn(Image::defaultFeedIcon())));
 }
 
+TEST(ImagesTest, DrawDrawingsThatTakeLittleWork) {
+    const std::string head = R"(<svg xmlns="http://www.w3.org/2000/svg" xmlns:xlink="http://www.w3.org/1999/xlink" width="8" height="8">)";
+    const std::string shape = R"(<path id="a" style="stroke-dasharray:none" d="M0 0H8V8H0z"/>)";
+    const std::string icon = "<?xml version=\"1.0\"?>" + head + shape;
+    EXPECT_TRUE(images::decoded(icon + "</svg>", {8, 8}));
+    EXPECT_FALSE(images::decoded(icon + R"(<use xlink:href="#a"/></svg>)", {8, 8}));
+    EXPECT_FALSE(images::decoded(icon + R"(<path stroke="red" stroke-dasharray="0.001" d="M0 0H8"/></svg>)", {8, 8}));
+    EXPECT_FALSE(images::decoded(icon + R"(<path style="stroke-dash&#97;rray:0.001" d="M0 0H8"/></svg>)", {8, 8}));
+    EXPECT_FALSE(images::decoded(icon + "<!--" + std::string(32 * 1024, ' ') + "--></svg>", {8, 8}));
+    // Packed, a drawing may be of any size.
+    const QByteArray packed = QByteArray::fromBase64(
+        "H4sIAAAAAAACA7MpLktXqMjNySu2VcooKSmw0tcvLy/XKzfWyy9K1zcyMDDQB6pQUijPTCnJsFWyUFLISM1MzygBMe1silKTS7BK6dvZgPTZAQBAL8o1XwAAAA==");
+    EXPECT_FALSE(images::decoded(packed.toStdString(), {8, 8}));
+}
+
 TEST(ImagesTest, DrawNothingForAnUnknownName) {
     EXPECT_TRUE(isBlank(drawn(Image::named("no such image"))));
     EXPECT_TRUE(isBlank(drawn(Image::named("../menu_feed"))));
