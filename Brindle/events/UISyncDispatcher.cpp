@@ -54,6 +54,8 @@ void UISyncDispatcher::feedItemDidDiscoverFeedItems(FeedItem&, const std::vector
 
 void UISyncDispatcher::feedItemDidFail(FeedItem& feedItem, const std::optional<FeedItemError>&) {
     notifier()->notifyError(shared(feedItem));
+    if (onFailure)
+        onFailure();
 }
 
 void UISyncDispatcher::feedItemHasImageData(FeedItem& feedItem) {

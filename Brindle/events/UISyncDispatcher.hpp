@@ -5,6 +5,7 @@
 #include "Brindle/library/FeedItemDelegate.hpp"
 #include "platform/ImageDecoder.hpp"
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string_view>
@@ -34,6 +35,9 @@ public:
     void feedItemDidFail(FeedItem& feedItem, const std::optional<FeedItemError>& error) override;
     void feedItemHasImageData(FeedItem& feedItem) override;
     void feedItemIsInvalid(FeedItem& feedItem) override;
+
+    /// After a failure was announced, of which nothing is posted; empty: nobody asks.
+    std::function<void()> onFailure;
 
 private:
     std::shared_ptr<FeedEventNotifier> notifier() const;

@@ -20,6 +20,7 @@ struct DBusImage {
     QByteArray bytes;
 
     static DBusImage make(const QImage& image);
+    friend bool operator==(const DBusImage&, const DBusImage&) = default;
 };
 using DBusImages = QList<DBusImage>;
 

@@ -3,6 +3,7 @@
 #include "platform/DockTile.hpp"
 
 #include <QDBusConnection>
+#include <QVariantMap>
 
 namespace brindle::desktop {
 
@@ -11,11 +12,12 @@ class LauncherEntryDockTile : public DockTile {
 public:
     explicit LauncherEntryDockTile(QDBusConnection bus) : _bus(std::move(bus)) {}
 
-    /// Docks show numbers only: any other text shows nothing.
+    /// Docks show numbers only: any other text shows nothing. They are told of what differs.
     void setBadgeLabel(const std::optional<std::string>& label) override;
 
 private:
     QDBusConnection _bus;
+    QVariantMap _told; ///< empty: nothing yet
 };
 
 } // namespace brindle::desktop

@@ -98,22 +98,31 @@ QString StatusArea::toolTip() const {
     return toQString(text);
 }
 
+void StatusArea::draw() {
+    _images.clear();
+    _icon = QIcon();
+    for (const int side : statusicon::sides) {
+        const QImage drawing = statusicon::drawing(*_image, _title, side);
+        _images.append(DBusImage::make(drawing));
+        _icon.addPixmap(QPixmap::fromImage(drawing));
+    }
+}
+
+/// Each change of the menu sets all anew, most of it as it was.
 void StatusArea::update() {
     _isUpdateDue = false;
     if (!_image)
         return;
-    const QString toolTip = this->toolTip();
-    DBusImages images;
-    QIcon icon;
-    for (const int side : statusicon::sides) {
-        const QImage drawing = statusicon::drawing(*_image, _title, side);
-        images.append(DBusImage::make(drawing));
-        icon.addPixmap(QPixmap::fromImage(drawing));
+    if (std::pair wanted(*_image, _title); _drawn != wanted) {
+        _drawn = std::move(wanted);
+        draw();
     }
-    _item.setLook({std::move(images), QGuiApplication::applicationDisplayName(), toolTip, toolTip});
+    const QString toolTip = this->toolTip();
+    _item.setLook({_images, QGuiApplication::applicationDisplayName(), toolTip, toolTip});
     if (!_trayIcon)
         return;
-    _trayIcon->setIcon(icon);
+    if (_trayIcon->icon().cacheKey() != _icon.cacheKey())
+        _trayIcon->setIcon(_icon);
     _trayIcon->setToolTip(toolTip);
     _trayIcon->show();
 }

@@ -7,6 +7,7 @@
 #include "platform/StatusItem.hpp"
 
 #include <QDBusConnection>
+#include <QIcon>
 #include <QObject>
 #include <QSystemTrayIcon>
 #include <functional>
@@ -30,6 +31,8 @@ public:
     void setResponderChain(std::shared_ptr<ResponderChain> chain);
     /// What else the tool tip tells, asked at each change of the item; UTF-8, empty for nothing.
     void setDetails(std::function<std::string()> details) { _details = std::move(details); }
+    /// The details may be others.
+    void detailsChanged() { updateLater(); }
     /// Whether a person sees the item somewhere.
     bool hasStatusArea() const;
     /// As the program's controllers set it; null: none yet.
@@ -54,6 +57,7 @@ private:
     void makeTrayIcon();
     void updateLater();
     void update();
+    void draw();
     QString toolTip() const;
     void showMenu(const QPoint& place);
     void connectMenu();
@@ -67,6 +71,9 @@ private:
     std::optional<Image> _image;
     std::string _title;
     std::string _toolTip;
+    std::optional<std::pair<Image, std::string>> _drawn; ///< image and title of the two below
+    DBusImages _images;
+    QIcon _icon;
     std::function<std::string()> _details; ///< empty: nothing
     bool _isUpdateDue = false;
     std::optional<bool> _hadStatusArea; ///< as was told; absent: nothing yet

@@ -52,8 +52,13 @@ StatusNotifierItem::~StatusNotifierItem() {
 }
 
 void StatusNotifierItem::setLook(Look look) {
-    _look = std::move(look);
-    emit lookChanged();
+    const Look before = std::exchange(_look, std::move(look));
+    if (_look.title != before.title)
+        emit titleChanged();
+    if (_look.icon != before.icon || _look.description != before.description)
+        emit iconChanged();
+    if (_look.toolTip != before.toolTip)
+        emit toolTipChanged();
 }
 
 void StatusNotifierItem::setMenu(std::shared_ptr<MenuExport> menu) {

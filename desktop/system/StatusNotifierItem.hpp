@@ -33,6 +33,7 @@ public:
     ~StatusNotifierItem() override;
 
     const Look& look() const { return _look; }
+    /// Panels are told of what differs.
     void setLook(Look look);
     /// What panels show that draw menus themselves; null: nothing.
     void setMenu(std::shared_ptr<MenuExport> menu);
@@ -47,7 +48,10 @@ signals:
     void isShownChanged();
     /// The person clicked it; `place` is on the screen.
     void activated(const QPoint& place);
-    void lookChanged();
+    void titleChanged();
+    /// Or its description.
+    void iconChanged();
+    void toolTipChanged();
 
 private slots:
     void hostRegistered();

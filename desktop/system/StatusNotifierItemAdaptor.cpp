@@ -5,11 +5,9 @@
 namespace brindle::desktop {
 
 StatusNotifierItemAdaptor::StatusNotifierItemAdaptor(StatusNotifierItem& item) : QDBusAbstractAdaptor(&item), _item(item) {
-    connect(&item, &StatusNotifierItem::lookChanged, this, [this] {
-        emit NewTitle();
-        emit NewIcon();
-        emit NewToolTip();
-    });
+    connect(&item, &StatusNotifierItem::titleChanged, this, &StatusNotifierItemAdaptor::NewTitle);
+    connect(&item, &StatusNotifierItem::iconChanged, this, &StatusNotifierItemAdaptor::NewIcon);
+    connect(&item, &StatusNotifierItem::toolTipChanged, this, &StatusNotifierItemAdaptor::NewToolTip);
 }
 
 bool StatusNotifierItemAdaptor::itemIsMenu() {

@@ -40,8 +40,18 @@ TEST_F(LauncherEntryDockTileTest, TellsTheCount) {
 }
 
 TEST_F(LauncherEntryDockTileTest, TakesTheCountAwayForNoLabelAndForAnEmptyOne) {
+    told("12");
     EXPECT_FALSE(told(std::nullopt).value(QStringLiteral("count-visible"), true).toBool());
+    told("12");
     EXPECT_FALSE(told("").value(QStringLiteral("count-visible"), true).toBool());
+}
+
+TEST_F(LauncherEntryDockTileTest, TellsTheSameCountOnce) {
+    told("12");
+    _tile.setBadgeLabel("12");
+    _tile.setBadgeLabel("13");
+    ASSERT_TRUE(runEventLoop([this] { return _dock.messages.size() > 1; }));
+    EXPECT_EQ(qdbus_cast<QVariantMap>(_dock.messages.at(1).arguments().at(1)).value(QStringLiteral("count")).toInt(), 13);
 }
 
 } // namespace brindle::desktop

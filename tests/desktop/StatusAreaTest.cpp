@@ -2,6 +2,7 @@
 
 #include "tests/desktop/EventLoop.hpp"
 #include "tests/desktop/PrivateBus.hpp"
+#include "tests/desktop/SignalCatcher.hpp"
 #include "tests/desktop/StatusNotifierWatcherFake.hpp"
 #include "tests/fakes/ActionHandlerFake.hpp"
 
@@ -69,6 +70,34 @@ TEST_F(StatusAreaTest, TellsDetailsInTheToolTip) {
     _area.setToolTip("Brindle");
     ASSERT_TRUE(runEventLoop([this] { return !property("IconAccessibleDesc").toString().isEmpty(); }));
     EXPECT_EQ(qdbus_cast<DBusToolTip>(property("ToolTip")).text, QStringLiteral("Feeds that can't be reached: 2"));
+}
+
+TEST_F(StatusAreaTest, AsksForTheDetailsOnceTheyMayBeOthers) {
+    std::string details;
+    _area.setDetails([&] { return details; });
+    _area.setImage(Image::named("menu_feed"));
+    _area.setToolTip("Brindle");
+    ASSERT_TRUE(runEventLoop([this] { return !property("IconAccessibleDesc").toString().isEmpty(); }));
+    details = "Feeds that can't be reached: 1";
+    _area.detailsChanged();
+    EXPECT_TRUE(runEventLoop([this] { return !qdbus_cast<DBusToolTip>(property("ToolTip")).text.isEmpty(); }));
+}
+
+TEST_F(StatusAreaTest, TellsPanelsNothingWhereAllIsSetAsItWas) {
+    const SignalCatcher icons(_panel, itemInterface, QStringLiteral("NewIcon"));
+    int updates = 0;
+    _area.setDetails([&] {
+        ++updates;
+        return std::string();
+    });
+    for (int turn = 1; turn <= 2; ++turn) {
+        _area.setImage(Image::named("menu_feed_alt"));
+        _area.setTitle("3");
+        _area.setToolTip("Brindle (3)");
+        ASSERT_TRUE(runEventLoop([&] { return updates == turn; }));
+    }
+    EXPECT_EQ(property("IconAccessibleDesc").toString(), QStringLiteral("Brindle (3)"));
+    EXPECT_EQ(icons.messages.size(), 1);
 }
 
 TEST_F(StatusAreaTest, OpensTheMenuOnAClickAndClosesItOnTheNext) {

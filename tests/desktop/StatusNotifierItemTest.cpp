@@ -2,6 +2,7 @@
 
 #include "tests/desktop/EventLoop.hpp"
 #include "tests/desktop/PrivateBus.hpp"
+#include "tests/desktop/SignalCatcher.hpp"
 #include "tests/desktop/StatusNotifierWatcherFake.hpp"
 
 #include <QDBusConnectionInterface>
@@ -38,6 +39,7 @@ protected:
 
 TEST_F(StatusNotifierItemTest, IsNotShownWithoutAWatcher) {
     makeItem();
+    ASSERT_TRUE(runEventLoop([this] { return _item->isAnswered(); }));
     EXPECT_FALSE(_item->isShown());
 }
 
@@ -53,7 +55,8 @@ TEST_F(StatusNotifierItemTest, IsNotShownWhereNoPanelIs) {
     makeWatcher();
     _watcher->hasHost = false;
     makeItem();
-    ASSERT_TRUE(runEventLoop([this] { return !_watcher->items.isEmpty(); }));
+    ASSERT_TRUE(runEventLoop([this] { return _item->isAnswered(); }));
+    EXPECT_EQ(_watcher->items.size(), 1);
     EXPECT_FALSE(_item->isShown());
     _watcher->hasHost = true;
     emit _watcher->StatusNotifierHostRegistered();
@@ -92,6 +95,33 @@ TEST_F(StatusNotifierItemTest, TellsHowItLooks) {
     const auto toolTip = qdbus_cast<DBusToolTip>(property("ToolTip"));
     EXPECT_EQ(toolTip.title, QStringLiteral("Brindle (3)"));
     EXPECT_EQ(toolTip.text, QStringLiteral("&lt;paused&gt;"));
+}
+
+TEST_F(StatusNotifierItemTest, TellsPanelsOfWhatDiffers) {
+    makeWatcher();
+    makeItem();
+    ASSERT_TRUE(becomesShown(true));
+    const SignalCatcher titles(_panel, itemInterface, QStringLiteral("NewTitle"));
+    const SignalCatcher icons(_panel, itemInterface, QStringLiteral("NewIcon"));
+    const SignalCatcher toolTips(_panel, itemInterface, QStringLiteral("NewToolTip"));
+    QImage image(1, 1, QImage::Format_ARGB32);
+    image.fill(QColor(1, 2, 3, 255));
+    StatusNotifierItem::Look look = {
+        {DBusImage::make(image)}, QStringLiteral("Brindle"), QStringLiteral("Brindle"), QStringLiteral("none")};
+    _item->setLook(look);
+    _item->setLook(look);
+    look.toolTip = QStringLiteral("Brindle (3)");
+    _item->setLook(look);
+    image.fill(QColor(3, 2, 1, 255));
+    look.icon = {DBusImage::make(image)};
+    _item->setLook(look);
+    look.description = QStringLiteral("3 unread");
+    _item->setLook(look);
+    // The answer comes after the signals.
+    EXPECT_EQ(property("IconAccessibleDesc").toString(), QStringLiteral("3 unread"));
+    EXPECT_EQ(titles.messages.size(), 1);
+    EXPECT_EQ(icons.messages.size(), 3);
+    EXPECT_EQ(toolTips.messages.size(), 2);
 }
 
 TEST_F(StatusNotifierItemTest, TellsWhereItWasClicked) {
