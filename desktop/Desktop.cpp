@@ -7,6 +7,7 @@
 #include "desktop/system/AutostartLoginItem.hpp"
 #include "desktop/system/BusNotificationCenter.hpp"
 #include "desktop/system/LauncherEntryDockTile.hpp"
+#include "desktop/system/NoDockTile.hpp"
 #include "desktop/system/NoRunningApplications.hpp"
 #include "desktop/system/NotificationService.hpp"
 #include "desktop/system/QtAlertPresenter.hpp"
@@ -61,7 +62,8 @@ Desktop::Desktop(const Options& options, const fs::path& supportDirectory, const
     connectInstance(instance);
     connectEnds();
     connectStatusArea();
-    watchNewsFeed();
+    watchFeeds();
+    _isBrowserDue = options.showsFeedsBrowser;
     open(options);
 }
 
@@ -98,7 +100,11 @@ AppDelegateEnvironment Desktop::environment(const Options& options, const fs::pa
     result.alerts = alerts;
     result.panels = std::make_shared<QtFilePanels>();
     result.statusItem = _statusArea;
-    result.dockTile = std::make_shared<LauncherEntryDockTile>(bus);
+    // The launcher is that of the user's own library.
+    if (options.supportDirectory || _defaults->boolForKey(preference::hideInDock))
+        result.dockTile = std::make_shared<NoDockTile>();
+    else
+        result.dockTile = std::make_shared<LauncherEntryDockTile>(bus);
     result.previews = makeArticlePreviewFactory(_defaults);
     result.windows =
         std::make_shared<QtWindowFactory>(windows, alerts, _statusMenu, std::make_shared<WebPluginLoader>(WebPluginLoader::standardFile()));
@@ -124,7 +130,7 @@ void Desktop::connectInstance(const SingleInstance& instance) {
         open(request);
     });
     connect(&instance, &SingleInstance::actionActivated, this, [this](const QString& name, const QString& token) {
-        if (name != QLatin1String("show-feeds-browser"))
+        if (name != QLatin1String(SingleInstance::feedsBrowserAction))
             return;
         useActivationToken(token);
         perform(actions::showFeedsBrowser);
@@ -154,6 +160,8 @@ void Desktop::connectStatusArea() {
     connect(_systemEvents.get(), &LogindSystemEvents::urlEventHandlerSet, this, [this] {
         followStatusArea();
         openFiles();
+        if (std::exchange(_isBrowserDue, false))
+            perform(actions::showFeedsBrowser);
     });
     // Without a status area a program without a window would run where nobody finds it.
     connect(
@@ -168,9 +176,8 @@ void Desktop::connectStatusArea() {
 /// The program's own news have no connection that could fail.
 std::string Desktop::failingFeeds() const {
     const auto items = FeedsManager::items(_delegate->feedsManager()->feeds);
-    const auto count = std::count_if(items.begin(), items.end(), [&](const std::shared_ptr<FeedItem>& item) {
-        return item->lastConnectionFailed() && item->url().absoluteString() != _newsFeed.address();
-    });
+    const auto count = std::count_if(items.begin(), items.end(),
+        [&](const std::shared_ptr<FeedItem>& item) { return item->lastConnectionFailed() && !_newsFeed.isNews(item->url()); });
     std::string text = count == 0 ? std::string() : localized("Feeds that can't be reached: %d");
     if (const auto place = text.find("%d"); place != std::string::npos)
         text.replace(place, 2, std::to_string(count));
@@ -192,7 +199,8 @@ void Desktop::showWhereUnreachable() {
 }
 
 /// A feed is given its document as soon as it is there, before its first fetch fails.
-void Desktop::watchNewsFeed() {
+void Desktop::watchFeeds() {
+    _delegate->uiSyncDispatcher()->onFailure = [this] { _statusArea->detailsChanged(); };
     _newsFeedObserver = _defaults->observe(preference::addedDefaultFeed, [this] { _newsFeed.fill(*_delegate->feedsManager()); });
     connect(_systemEvents.get(), &LogindSystemEvents::urlEventHandlerSet, this, [this] { _newsFeed.fill(*_delegate->feedsManager()); });
 }
@@ -200,7 +208,7 @@ void Desktop::watchNewsFeed() {
 void Desktop::show(const QString& token) {
     useActivationToken(token);
     if (QtApplication::hasVisibleWindow())
-        QtApplication().activate();
+        QtApplication().reopen();
     else if (isLaunched())
         perform(actions::showFeedsBrowser);
 }

@@ -42,7 +42,7 @@ private:
     void connectInstance(const SingleInstance& instance);
     void connectEnds();
     void connectStatusArea();
-    void watchNewsFeed();
+    void watchFeeds();
     std::string failingFeeds() const;
     void show(const QString& token);
     void perform(std::string_view action);
@@ -65,6 +65,7 @@ private:
     TerminationSignals _terminationSignals;
     std::shared_ptr<AppDelegate> _delegate;
     NotificationCenter::Token _newsFeedObserver;
+    bool _isBrowserDue = false;                ///< to be shown once the library is there
     std::vector<std::filesystem::path> _files; ///< to be opened once the library is there
     QTimer _unreachableTimer;
 };

@@ -1,5 +1,6 @@
 #include "desktop/DisplayServer.hpp"
 
+#include <algorithm>
 #include <cstdlib>
 #include <dlfcn.h>
 #include <string_view>
@@ -29,8 +30,6 @@ private:
 
 /// Also false where the server refuses this user.
 bool answersX11() {
-    if (variable("DISPLAY").empty())
-        return false;
     const ClientLibrary library("libxcb.so.1");
     auto* const connect = library.function<void*(const char*, int*)>("xcb_connect");
     auto* const error = library.function<int(void*)>("xcb_connection_has_error");
@@ -44,8 +43,9 @@ bool answersX11() {
 }
 
 bool answersWayland() {
-    if (variable("WAYLAND_DISPLAY").empty())
-        return false;
+    // An open socket that was handed to this process can be used only once.
+    if (!variable("WAYLAND_SOCKET").empty())
+        return true;
     const ClientLibrary library("libwayland-client.so.0");
     auto* const connect = library.function<void*(const char*)>("wl_display_connect");
     auto* const disconnect = library.function<void(void*)>("wl_display_disconnect");
@@ -55,14 +55,27 @@ bool answersWayland() {
     return connection != nullptr;
 }
 
+/// `platforms` as the toolkit takes them: "wayland;xcb:options", of which it tries one after the other.
+bool isAnyUsable(std::string_view platforms) {
+    while (!platforms.empty()) {
+        const std::size_t end = std::min(platforms.find(';'), platforms.size());
+        const std::string_view name = platforms.substr(0, end);
+        if (name.starts_with("xcb") ? answersX11() : !name.starts_with("wayland") || answersWayland())
+            return true;
+        platforms.remove_prefix(std::min(end + 1, platforms.size()));
+    }
+    return false;
+}
+
 } // namespace
 
 std::optional<std::string> platform() {
-    // An open socket that was handed to this process can be used only once.
-    if (!variable("QT_QPA_PLATFORM").empty() || !variable("WAYLAND_SOCKET").empty())
+    if (const std::string_view named = variable("QT_QPA_PLATFORM"); !named.empty())
+        return isAnyUsable(named) ? std::optional(std::string()) : std::nullopt;
+    if (!variable("WAYLAND_SOCKET").empty())
         return std::string();
-    const bool hasX11 = answersX11();
-    const bool hasWayland = answersWayland();
+    const bool hasX11 = !variable("DISPLAY").empty() && answersX11();
+    const bool hasWayland = !variable("WAYLAND_DISPLAY").empty() && answersWayland();
     if (!hasX11 && !hasWayland)
         return std::nullopt;
     if (hasX11 && hasWayland)
@@ -71,6 +84,8 @@ std::optional<std::string> platform() {
 }
 
 std::string refusal() {
+    if (const std::string_view named = variable("QT_QPA_PLATFORM"); !named.empty())
+        return "no display can be reached by QT_QPA_PLATFORM=\"" + std::string(named) + "\".";
     for (const char* const name : {"DISPLAY", "WAYLAND_DISPLAY"}) {
         if (const std::string_view display = variable(name); !display.empty())
             return "the display \"" + std::string(display) + "\" can't be reached.";

@@ -9,8 +9,8 @@ namespace brindle::desktop {
 /// main, before the application object is made.
 namespace displayserver {
 
-/// Which of the toolkit's platforms can be used; empty: the toolkit's own choice, which is believed where the environment has it. Absent
-/// where no server answers. Takes a connection, and gives it back.
+/// Which of the toolkit's platforms can be used; empty: the toolkit's own choice. Absent where no server answers. Of those that
+/// the environment names (QT_QPA_PLATFORM) only the ones that need no such server are believed. Takes a connection, and gives it back.
 std::optional<std::string> platform();
 
 /// What to say where there is none: one sentence.

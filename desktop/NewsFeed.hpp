@@ -16,7 +16,9 @@ public:
 
     /// As URI of a file.
     std::string address() const;
-    /// Gives the feed of that address its document, where the library has it.
+    /// Whether a feed has that address, or that of another place where the program was installed: its library stays when it moves.
+    bool isNews(const URL& url) const;
+    /// Gives such feeds of the library its document.
     void fill(const FeedsManager& library) const;
 
 private:

@@ -5,6 +5,7 @@
 
 #include <QCryptographicHash>
 #include <QUrl>
+#include <algorithm>
 #include <array>
 
 namespace brindle::desktop {
@@ -39,14 +40,15 @@ std::optional<fs::path> localFile(const std::string& uri) {
 std::string_view Options::usage() {
     return "usage: brindle [OPTION…] [ADDRESS|FILE.opml…]\n"
            "\n"
-           "  ADDRESS            a feed to subscribe to, or a page that has one (feed:, http:, https:)\n"
-           "  FILE.opml          subscriptions to add\n"
-           "  --background       start without a window, in the status area only\n"
-           "  --support-dir DIR  keep library and preferences in DIR\n"
-           "  --help             print this text\n"
-           "  --version          print the version\n"
+           "  ADDRESS               a feed to subscribe to, or a page that has one (feed:, http:, https:)\n"
+           "  FILE.opml             subscriptions to add\n"
+           "  --background          start without a window, in the status area only\n"
+           "  --show-feeds-browser  show the feeds browser\n"
+           "  --support-dir DIR     keep library and preferences in DIR\n"
+           "  --help                print this text\n"
+           "  --version             print the version\n"
            "\n"
-           "A program that runs already is handed the addresses and files.\n";
+           "A program that runs already is handed the addresses and files, and what to show.\n";
 }
 
 tl::expected<Options, std::string> Options::parse(const std::vector<std::string>& words, const fs::path& folder) {
@@ -56,12 +58,11 @@ tl::expected<Options, std::string> Options::parse(const std::vector<std::string>
         const std::string& word = words[i];
         if (areOptionsOver || !word.starts_with('-')) {
             const bool isURI = word.starts_with("file:") || hasScheme(toQString(word));
-            if (isURI ? options.addURI(word) : isOPML(word)) {
-                if (!isURI)
-                    options.files.push_back((folder / word).lexically_normal());
-                continue;
-            }
-            return tl::unexpected("\"" + word + "\" is neither an address nor an OPML file");
+            if (!isURI && isOPML(word))
+                options.files.push_back((folder / word).lexically_normal());
+            else if (!isURI || !options.addURI(word))
+                options.skipped.push_back(word);
+            continue;
         }
         if (word == "--")
             areOptionsOver = true;
@@ -71,6 +72,8 @@ tl::expected<Options, std::string> Options::parse(const std::vector<std::string>
             options.version = true;
         else if (word == "--background")
             options.background = true;
+        else if (word == "--show-feeds-browser")
+            options.showsFeedsBrowser = true;
         else if (word == supportOption && i + 1 < words.size() && !words[i + 1].empty())
             options.supportDirectory = (folder / words[++i]).lexically_normal();
         else if (word.starts_with(std::string(supportOption) + "=") && word.size() > supportOption.size() + 1)
@@ -80,6 +83,8 @@ tl::expected<Options, std::string> Options::parse(const std::vector<std::string>
         else
             return tl::unexpected("unknown option \"" + word + "\"");
     }
+    if (!options.skipped.empty() && options.uris().empty())
+        return tl::unexpected("\"" + options.skipped.front() + "\" is neither an address nor an OPML file");
     return options;
 }
 
@@ -115,6 +120,15 @@ bool Options::addURI(const std::string& uri) {
         return false;
     files.push_back(*file);
     return true;
+}
+
+std::vector<fs::path> Options::takeMissingFiles() {
+    std::error_code unknown;
+    const auto isThere = [&](const fs::path& file) { return fs::exists(file, unknown); };
+    const auto firstMissing = std::stable_partition(files.begin(), files.end(), isThere);
+    std::vector<fs::path> missing(firstMissing, files.end());
+    files.erase(firstMissing, files.end());
+    return missing;
 }
 
 } // namespace brindle::desktop

@@ -14,9 +14,11 @@ struct Options {
     bool help = false;
     bool version = false;
     bool background = false;                               ///< shows no window at the start
+    bool showsFeedsBrowser = false;                        ///< whatever the preferences say of the start
     std::optional<std::filesystem::path> supportDirectory; ///< absolute; absent: the user's
     std::vector<std::string> addresses;                    ///< of feeds, with the schemes "feed", "http" or "https"
     std::vector<std::filesystem::path> files;              ///< OPML files, absolute
+    std::vector<std::string> skipped;                      ///< words that are neither, beside others that are
 
     /// `words` are the arguments without the program's name; relative paths begin in `folder`. The error is one sentence.
     static tl::expected<Options, std::string> parse(const std::vector<std::string>& words, const std::filesystem::path& folder);
@@ -30,6 +32,8 @@ struct Options {
     /// Addresses and files as one list of URIs, for another process; `addURI` takes them there, and gives false for what is neither.
     std::vector<std::string> uris() const;
     bool addURI(const std::string& uri);
+    /// Takes away the files that don't exist, and gives them.
+    std::vector<std::filesystem::path> takeMissingFiles();
 };
 
 } // namespace brindle::desktop

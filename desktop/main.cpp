@@ -46,18 +46,40 @@ int refuse(const std::string& text) {
     return failed;
 }
 
-int run(const Options& options, const QVariantMap& platformData) {
+/// Has the program that runs already do what this one was asked for; false where it doesn't answer.
+bool handOver(const SingleInstance& instance, const Options& options, const QVariantMap& platformData) {
+    const QStringList uris = toQStringList(options.uris());
+    // A start at login beside a session that was restored: there is nothing to show.
+    const bool isForAction = uris.isEmpty() && (options.background || options.showsFeedsBrowser);
+    if (!isForAction && !instance.handOver(uris, platformData))
+        return false;
+    return !options.showsFeedsBrowser || instance.handOverAction(QLatin1String(SingleInstance::feedsBrowserAction), platformData);
+}
+
+/// Tells of the files that can't be opened, each in a line of its own; empty where all can.
+std::string takeMissingFiles(Options& options) {
+    std::string text;
+    for (const fs::path& file : options.takeMissingFiles()) {
+        std::string line = localized("This file doesn't exist: %@");
+        if (const auto place = line.find("%@"); place != std::string::npos)
+            line.replace(place, 2, file.string());
+        text += (text.empty() ? "" : "\n") + line;
+    }
+    return text;
+}
+
+int run(Options options, const QVariantMap& platformData) {
     const fs::path programs = fromQString(QCoreApplication::applicationDirPath());
     const fs::path resources = programs.parent_path() / "share" / "brindle";
     loadTexts(resources);
-    SingleInstance instance(QDBusConnection::sessionBus(), toQString(options.instanceName()));
-    if (!instance.acquire()) {
-        // A start at login beside a session that was restored: there is nothing to show.
-        if (options.background && options.uris().empty())
-            return 0;
-        const bool isDone = instance.handOver(toQStringList(options.uris()), platformData);
-        return isDone ? 0 : refuse(localized("Brindle runs already, and doesn't answer."));
+    if (const std::string missing = takeMissingFiles(options); !missing.empty()) {
+        if (options.uris().empty() && !options.showsFeedsBrowser)
+            return refuse(missing);
+        std::cerr << "brindle: " << missing << '\n';
     }
+    SingleInstance instance(QDBusConnection::sessionBus(), toQString(options.instanceName()));
+    if (!instance.acquire())
+        return handOver(instance, options, platformData) ? 0 : refuse(localized("Brindle runs already, and doesn't answer."));
     const fs::path support = options.supportDirectory ? *options.supportDirectory : AppDelegate::applicationSupportDirectory();
     // A folder that can't be written to is no reason not to read.
     static_cast<void>(FileManager::createDirectory(support));
@@ -78,6 +100,8 @@ int start(int argc, char** argv) {
         std::cout << (options->help ? Options::usage() : "brindle " BRINDLE_VERSION "\n");
         return 0;
     }
+    for (const std::string& word : options->skipped)
+        std::cerr << "brindle: \"" << word << "\" is neither an address nor an OPML file\n";
     std::optional<std::string> platform = displayserver::platform();
     if (!platform) {
         std::cerr << "brindle: " << displayserver::refusal() << " brindle-cli works without one.\n";

@@ -10,6 +10,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 #include <algorithm>
+#include <iterator>
 
 namespace brindle::desktop {
 
@@ -22,6 +23,13 @@ bool isWindow(const QWidget* widget) {
     const Qt::WindowType type = widget->windowType();
     const bool isManaged = !widget->windowFlags().testFlag(Qt::BypassWindowManagerHint);
     return widget->isVisible() && isManaged && (type == Qt::Window || type == Qt::Dialog || type == Qt::Tool);
+}
+
+QWidgetList windows() {
+    QWidgetList found;
+    const QWidgetList widgets = QApplication::topLevelWidgets();
+    std::copy_if(widgets.begin(), widgets.end(), std::back_inserter(found), isWindow);
+    return found;
 }
 
 QLabel* label(const QString& text, qreal scale, bool bold) {
@@ -64,15 +72,28 @@ QDialog* makeAboutPanel() {
 } // namespace
 
 bool QtApplication::hasVisibleWindow() {
-    const QWidgetList widgets = QApplication::topLevelWidgets();
-    return std::any_of(widgets.begin(), widgets.end(), isWindow);
+    return !windows().isEmpty();
+}
+
+void QtApplication::reopen() {
+    const QWidgetList all = windows();
+    if (std::all_of(all.begin(), all.end(), [](const QWidget* widget) { return widget->isMinimized(); })) {
+        for (QWidget* const widget : all)
+            widget->setWindowState(widget->windowState() & ~Qt::WindowMinimized);
+    }
+    activate();
+}
+
+void QtApplication::setActivationPolicy(ActivationPolicy policy) {
+    if (policy == ActivationPolicy::regular)
+        _unlistedWindows.reset();
+    else if (!_unlistedWindows)
+        _unlistedWindows = std::make_unique<UnlistedWindows>();
 }
 
 void QtApplication::activate() {
     const QWidget* const active = QApplication::activeWindow();
-    for (QWidget* const widget : QApplication::topLevelWidgets()) {
-        if (!isWindow(widget))
-            continue;
+    for (QWidget* const widget : windows()) {
         widget->raise();
         if (!active || active == widget)
             widget->activateWindow();

@@ -53,6 +53,12 @@ bool SingleInstance::handOver(const QStringList& uris, const QVariantMap& platfo
     return _bus.call(call, QDBus::Block, answerLimit).type() == QDBusMessage::ReplyMessage;
 }
 
+bool SingleInstance::handOverAction(const QString& action, const QVariantMap& platformData) const {
+    QDBusMessage call = QDBusMessage::createMethodCall(_name, path(), interface, QStringLiteral("ActivateAction"));
+    call << action << QVariantList() << platformData;
+    return _bus.call(call, QDBus::Block, answerLimit).type() == QDBusMessage::ReplyMessage;
+}
+
 QVariantMap SingleInstance::platformData() {
     QVariantMap result;
     for (const auto& [name, key] :

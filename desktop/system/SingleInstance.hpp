@@ -16,6 +16,8 @@ class SingleInstance : public QObject {
 public:
     /// The program's own name, and where it answers.
     static constexpr const char* standardName = "org.brindle.Brindle";
+    /// The action of its desktop entry.
+    static constexpr const char* feedsBrowserAction = "show-feeds-browser";
 
     SingleInstance(QDBusConnection bus, QString name);
     ~SingleInstance() override;
@@ -25,6 +27,8 @@ public:
     /// Has the process that took the name open `uris`, or show itself where there are none; false where it doesn't answer. `platformData`
     /// is what the desktop gave this process.
     bool handOver(const QStringList& uris, const QVariantMap& platformData = {}) const;
+    /// The same for one of the actions of the program's desktop entry.
+    bool handOverAction(const QString& action, const QVariantMap& platformData = {}) const;
     /// From the environment, for another process: the permission to take a person's attention, by a token (XDG Activation, Startup
     /// Notification Protocol Specification).
     static QVariantMap platformData();

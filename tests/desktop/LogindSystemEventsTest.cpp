@@ -2,6 +2,7 @@
 
 #include "tests/desktop/EventLoop.hpp"
 #include "tests/desktop/PrivateBus.hpp"
+#include "tests/desktop/SignalCatcher.hpp"
 
 #include <QSignalSpy>
 #include <gmock/gmock.h>
@@ -135,10 +136,15 @@ ret = dbus.ObjectPath(path)
 }
 
 TEST_F(LogindSystemEventsTest, NeverSleepsWithoutLogind) {
-    LogindSystemEvents events(_bus.connect());
+    const QDBusConnection bus = _bus.connect();
+    LogindSystemEvents events(bus);
     events.addObserver(Event::willSleep, _told);
-    // An answer on the same bus: those before it have come as well.
-    PrivateBus::property(_bus.connect(), service, managerPath, QStringLiteral("org.freedesktop.login1.Manager"), QStringLiteral("Docked"));
+    const QString manager = QStringLiteral("org.freedesktop.login1.Manager");
+    const SignalCatcher anybody(bus, manager, QStringLiteral("PrepareForSleep"));
+    QDBusMessage sleep = QDBusMessage::createSignal(managerPath, manager, QStringLiteral("PrepareForSleep"));
+    sleep << true;
+    _observer.send(sleep);
+    ASSERT_TRUE(runEventLoop([&] { return !anybody.messages.isEmpty(); }));
     EXPECT_THAT(_told->log, ElementsAre());
 }
 

@@ -1,5 +1,8 @@
 #include "desktop/Options.hpp"
 
+#include "foundation/FileManager.hpp"
+#include "tests/support/TemporaryFolder.hpp"
+
 #include <gmock/gmock.h>
 
 namespace brindle::desktop {
@@ -16,9 +19,9 @@ TEST(OptionsTest, AreEmptyWithoutWords) {
 }
 
 TEST(OptionsTest, KnowTheirNames) {
-    const auto options = Options::parse({"--help", "--version", "--background"}, "/home/ada");
+    const auto options = Options::parse({"--help", "--version", "--background", "--show-feeds-browser"}, "/home/ada");
     ASSERT_TRUE(options);
-    EXPECT_TRUE(options->help && options->version && options->background);
+    EXPECT_TRUE(options->help && options->version && options->background && options->showsFeedsBrowser);
 }
 
 TEST(OptionsTest, TakeASupportFolderInBothForms) {
@@ -52,6 +55,22 @@ TEST(OptionsTest, RefuseAnyOtherWord) {
     EXPECT_FALSE(Options::parse({"file:///etc/passwd"}, "/"));
     EXPECT_FALSE(Options::parse({"ftp://a.example/x.opml.gz"}, "/"));
     EXPECT_FALSE(Options::parse({""}, "/"));
+}
+
+TEST(OptionsTest, SkipAnyOtherWordBesideOnesThatCanBeOpened) {
+    const auto options = Options::parse({"ftp://a.example/x", "feed:b.example", "feeds.txt"}, "/");
+    ASSERT_TRUE(options);
+    EXPECT_THAT(options->skipped, ElementsAre("ftp://a.example/x", "feeds.txt"));
+    EXPECT_THAT(options->uris(), ElementsAre("feed:b.example"));
+}
+
+TEST(OptionsTest, GiveUpTheFilesThatDontExist) {
+    const TemporaryFolder folder;
+    ASSERT_TRUE(FileManager::writeAtomically(folder / "mine.opml", "<opml/>"));
+    auto options = Options::parse({"no.opml", "mine.opml"}, folder.path());
+    ASSERT_TRUE(options);
+    EXPECT_THAT(options->takeMissingFiles(), ElementsAre(folder / "no.opml"));
+    EXPECT_THAT(options->files, ElementsAre(folder / "mine.opml"));
 }
 
 TEST(OptionsTest, EndAtTwoHyphens) {

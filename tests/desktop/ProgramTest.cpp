@@ -56,6 +56,16 @@ TEST_F(ProgramTest, SaysThatADisplayCantBeReached) {
     EXPECT_THAT(other.readAllStandardError().toStdString(), HasSubstr("the display \"/nonexistent/wayland-0\" can't be reached"));
 }
 
+TEST_F(ProgramTest, SaysThatThereIsNoDisplayForThePlatformThatTheEnvironmentNames) {
+    _variables = {{QStringLiteral("XDG_RUNTIME_DIR"), QStringLiteral("/nonexistent")}};
+    for (const char* const platform : {"xcb", "wayland", "wayland;xcb"}) {
+        _platform = QLatin1String(platform);
+        QProcess& program = start({});
+        EXPECT_EQ(finish(program), 1);
+        EXPECT_THAT(program.readAllStandardError().toStdString(), HasSubstr(std::string("QT_QPA_PLATFORM=\"") + platform + '"'));
+    }
+}
+
 TEST_F(ProgramTest, FindsTheDisplayThatAnswers) {
     const VirtualDisplay display;
     ASSERT_TRUE(display.isThere());

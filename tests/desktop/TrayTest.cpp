@@ -72,6 +72,23 @@ TEST_F(TrayTest, ShowsTheBrowserOnceTheTrayIsGoneAndTheIconOnceItComesBack) {
     EXPECT_TRUE(hasIcon());
 }
 
+TEST_F(TrayTest, ShowsTheBrowserAtTheStartWhereThatIsAsked) {
+    _panel->startTray();
+    start({QStringLiteral("--background"), QStringLiteral("--show-feeds-browser")});
+    ASSERT_TRUE(hasIcon());
+    EXPECT_TRUE(hasBrowser());
+}
+
+TEST_F(TrayTest, ShowsItsMinimisedBrowserWhenItIsStartedAgain) {
+    _panel->startTray();
+    start({});
+    ASSERT_TRUE(hasBrowser());
+    _panel->run(QStringLiteral("xdotool"), {QStringLiteral("windowminimize"), _panel->windows(browserTitle).constFirst()});
+    ASSERT_TRUE(runEventLoop([this] { return _panel->windows(browserTitle).isEmpty(); }));
+    EXPECT_EQ(finish(start({})), 0);
+    EXPECT_TRUE(hasBrowser());
+}
+
 TEST_F(TrayTest, ShowsTheBrowserWhereThereIsNoTrayAndEndsWithIt) {
     QProcess& program = start({QStringLiteral("--background")});
     ASSERT_TRUE(hasBrowser());
