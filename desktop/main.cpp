@@ -42,7 +42,9 @@ void loadTexts(const fs::path& resources) {
 
 int refuse(const std::string& text) {
     std::cerr << "brindle: " << text << '\n';
-    QMessageBox::critical(nullptr, QGuiApplication::applicationDisplayName(), toQString(text));
+    QMessageBox box(QMessageBox::Critical, QGuiApplication::applicationDisplayName(), toQString(text));
+    box.setTextFormat(Qt::PlainText);
+    box.exec();
     return failed;
 }
 
