@@ -4,6 +4,7 @@
 #include "foundation/LocalizedStrings.hpp"
 
 #include <QApplication>
+#include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
 #include <algorithm>
@@ -46,6 +47,9 @@ void show(const Alert& alert, AlertPresenter::Answer answer, QWidget* window) {
     box->setIcon(titles.size() > 1 ? QMessageBox::Question : QMessageBox::Information);
     box->setText(toQString(alert.messageText));
     box->setInformativeText(toQString(alert.informativeText));
+    // The box gives its format to the first text alone.
+    for (QLabel* const label : box->findChildren<QLabel*>())
+        label->setTextFormat(Qt::PlainText);
     const std::vector<QAbstractButton*> buttons = addButtons(*box, titles);
     QObject::connect(box, &QDialog::finished, box, [box, buttons, answer = std::move(answer)] {
         // Whoever closes the box by its title has clicked nothing by now.

@@ -23,6 +23,11 @@ inline QString shortened(const QString& text, qsizetype length) {
     return text.left(tearsPair ? length - 1 : length) + QChar(0x2026);
 }
 
+/// For a tool tip: the text as it is. Tool tips take what looks like HTML for that, and fetch what it names; empty stays empty.
+inline QString toolTipText(const QString& text) {
+    return text.isEmpty() ? QString() : QStringLiteral("<span>%1</span>").arg(text.toHtmlEscaped());
+}
+
 /// A name or title for one line on the screen. A feed may send megabytes, which take seconds to be laid out.
 inline QString titleText(std::string_view title) {
     constexpr qsizetype length = 1000;

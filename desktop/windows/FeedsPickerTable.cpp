@@ -48,7 +48,7 @@ void FeedsPickerTable::showRow(std::size_t row) {
     const Button* const box = _cells[row] ? &_cells[row]->checkBox : nullptr;
     item.setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable);
     item.setText(box ? titleText(box->title()) : QString());
-    item.setToolTip(item.text());
+    item.setToolTip(toolTipText(item.text()));
     item.setCheckState(box && box->state() ? Qt::Checked : Qt::Unchecked);
 }
 

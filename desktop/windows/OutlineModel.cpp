@@ -1,5 +1,6 @@
 #include "desktop/windows/OutlineModel.hpp"
 
+#include "desktop/toolkit/Text.hpp"
 #include "desktop/windows/CellRole.hpp"
 #include "desktop/windows/CellText.hpp"
 
@@ -267,8 +268,9 @@ QVariant OutlineModel::data(const QModelIndex& index, int role) const {
     case rowHeightRole:
         return delegate->heightOfRow(shown.item);
     case Qt::DisplayRole:
-    case Qt::ToolTipRole:
         return cell(shown).isNull() || !shown.cell ? QString() : cellName(*shown.cell);
+    case Qt::ToolTipRole:
+        return toolTipText(data(index, Qt::DisplayRole).toString());
     case Qt::AccessibleTextRole:
         return cell(shown).isNull() || !shown.cell ? QString() : cellDescription(*shown.cell);
     default:

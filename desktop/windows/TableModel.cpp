@@ -1,5 +1,6 @@
 #include "desktop/windows/TableModel.hpp"
 
+#include "desktop/toolkit/Text.hpp"
 #include "desktop/windows/CellRole.hpp"
 #include "desktop/windows/CellText.hpp"
 
@@ -39,7 +40,9 @@ QVariant TableModel::data(const QModelIndex& index, int role) const {
         return QVariant::fromValue(cell);
     if (!cell)
         return {};
-    return role == Qt::AccessibleTextRole ? cellDescription(*cell) : cellName(*cell);
+    if (role == Qt::AccessibleTextRole)
+        return cellDescription(*cell);
+    return role == Qt::ToolTipRole ? toolTipText(cellName(*cell)) : cellName(*cell);
 }
 
 Qt::ItemFlags TableModel::flags(const QModelIndex& index) const {

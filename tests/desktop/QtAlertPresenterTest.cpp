@@ -6,6 +6,7 @@
 #include "tests/support/TemporaryFolder.hpp"
 
 #include <QApplication>
+#include <QLabel>
 #include <QMainWindow>
 #include <QMessageBox>
 #include <QPushButton>
@@ -48,7 +49,9 @@ TEST_F(QtAlertPresenterTest, ShowsItsTextsAsTheyAre) {
     _alerts.runModal({"Delete <b>?", "For & good", {"Yes", "No"}}, answer());
     ASSERT_NE(shown(), nullptr);
     EXPECT_EQ(shown()->text(), QStringLiteral("Delete <b>?"));
-    EXPECT_EQ(shown()->textFormat(), Qt::PlainText);
+    for (const QLabel* const label : shown()->findChildren<QLabel*>())
+        EXPECT_EQ(label->textFormat(), Qt::PlainText) << label->text().toStdString();
+    EXPECT_FALSE(shown()->iconPixmap().isNull());
     EXPECT_EQ(shown()->informativeText(), QStringLiteral("For & good"));
     EXPECT_EQ(shown()->windowModality(), Qt::ApplicationModal);
     button(QStringLiteral("No"))->click();

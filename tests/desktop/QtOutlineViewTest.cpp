@@ -1,4 +1,5 @@
 #include "tests/desktop/QtOutlineViewFixture.hpp"
+#include "tests/desktop/ToolTip.hpp"
 
 #include <utility>
 
@@ -17,6 +18,13 @@ TEST_F(QtOutlineViewTest, ShowsTheRowsOfExpandedItems) {
     EXPECT_THAT(rows(), ElementsAre("FEEDS", "Alpha", "Group"));
     view->expandItem(group);
     EXPECT_THAT(rows(), ElementsAre("FEEDS", "Alpha", "Group", "Inner"));
+}
+
+TEST_F(QtOutlineViewTest, ShowsANameAsItIsInAToolTip) {
+    const auto item = add(makeItem("<img src='file:///x'> & more"));
+    show();
+    const QString tip = tree().outline().indexOf(item).data(Qt::ToolTipRole).toString();
+    EXPECT_EQ(readToolTip(tip), "<img src='file:///x'> & more");
 }
 
 TEST_F(QtOutlineViewTest, RevealsAFeedInClosedGroups) {
