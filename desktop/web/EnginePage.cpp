@@ -36,10 +36,21 @@ Navigation navigation(QWebEnginePage::NavigationType type) {
     }
 }
 
+template <std::size_t count>
+bool isAmong(const std::array<const char*, count>& known, const QString& scheme) {
+    return std::any_of(known.begin(), known.end(), [&](const char* each) { return scheme == QLatin1String(each); });
+}
+
 /// Links that may lead out of the program: no files, no scripts, no schemes by which a page would start other programs.
 bool isLinkScheme(const QString& scheme) {
     constexpr std::array<const char*, 4> known = {"http", "https", "mailto", "feed"};
-    return std::any_of(known.begin(), known.end(), [&](const char* each) { return scheme == QLatin1String(each); });
+    return isAmong(known, scheme);
+}
+
+/// What a page may have in its frames beside the web.
+bool isInnerScheme(const QString& scheme) {
+    constexpr std::array<const char*, 3> known = {"about", "blob", "data"};
+    return scheme == QLatin1String(PageScheme::name) || isAmong(known, scheme);
 }
 
 } // namespace
@@ -78,11 +89,12 @@ bool EnginePage::acceptNavigationRequest(const QUrl& url, NavigationType type, b
 }
 
 bool EnginePage::isAllowed(const QUrl& url, NavigationType type, bool isMainFrame) const {
+    // For an address that it can't show, a grant would have the engine start another program.
     if (type == NavigationTypeLinkClicked)
-        return allowsLink(url);
+        return allowsLink(url) && isNetworkAddress(url);
     // What is inside the page is judged by its requests as well, but those of a redirect may be on their way by then.
     if (!isMainFrame)
-        return !isNetworkAddress(url) || mayBeWithin(this->url(), url);
+        return isNetworkAddress(url) ? mayBeWithin(this->url(), url) : isInnerScheme(url.scheme());
     if (isNetworkAddress(url) ? isLocalHost(url.host()) && !_ownHosts.contains(url.host()) : !isOwnPage(url))
         return false;
     return !_allows || _allows(navigation(type), url);

@@ -79,6 +79,7 @@ void EnginePageView::connectPage() {
     });
     connect(_page, &QWebEnginePage::renderProcessTerminated, this, [this](QWebEnginePage::RenderProcessTerminationStatus status, int) {
         _timeout.stop();
+        setProgress(1);
         if (status != QWebEnginePage::NormalTerminationStatus && _events.processDidTerminate)
             _events.processDidTerminate();
     });

@@ -33,16 +33,17 @@ constexpr std::array<std::pair<QWebEngineSettings::WebAttribute, bool>, 16> attr
     {QWebEngineSettings::NavigateOnDropEnabled, false},
 }};
 
-/// Takes calls between browsers from every page (WebRTC): they open connections that nothing judges, to this machine as well. It keeps off
-/// the many pages that look around by them, not one that fetches them out of a frame at the moment when it makes it: for that there is no
-/// switch.
-QWebEngineScript withoutCalls() {
+/// Takes calls between browsers (WebRTC) and service workers from every page: they open connections that nothing judges, to this machine as
+/// well. It keeps off the many pages that look around by them, not one that fetches them out of a frame at the moment when it makes it: for
+/// calls there is no switch, and the script of a service worker is refused besides.
+QWebEngineScript withoutCallsAndServices() {
     QWebEngineScript script;
-    script.setName(QStringLiteral("without calls"));
+    script.setName(QStringLiteral("without calls and services"));
     script.setInjectionPoint(QWebEngineScript::DocumentCreation);
     script.setWorldId(QWebEngineScript::MainWorld);
     script.setRunsOnSubFrames(true);
-    script.setSourceCode(QStringLiteral("delete window.RTCPeerConnection; delete window.webkitRTCPeerConnection;"));
+    script.setSourceCode(QStringLiteral("delete window.RTCPeerConnection; delete window.webkitRTCPeerConnection;"
+                                        "delete Navigator.prototype.serviceWorker;"));
     return script;
 }
 
@@ -59,10 +60,10 @@ EngineProfile::EngineProfile(QObject* parent) : QWebEngineProfile(parent), _page
     setSpellCheckEnabled(false);
     setUrlRequestInterceptor(new RequestInterceptor(this));
     installUrlSchemeHandler(PageScheme::name, _pages);
-    scripts()->insert(withoutCalls());
+    scripts()->insert(withoutCallsAndServices());
     for (const auto& [attribute, isOn] : attributes)
         settings()->setAttribute(attribute, isOn);
-    settings()->setUnknownUrlSchemePolicy(QWebEngineSettings::DisallowUnknownUrlSchemes);
+    settings()->setUnknownUrlSchemePolicy(QWebEngineSettings::AllowUnknownUrlSchemesFromUserInteraction);
     connect(this, &QWebEngineProfile::downloadRequested, this, [](QWebEngineDownloadRequest* download) { download->cancel(); });
 }
 

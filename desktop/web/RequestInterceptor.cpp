@@ -25,6 +25,9 @@ void RequestInterceptor::interceptRequest(QWebEngineUrlRequestInfo& info) {
     const QUrl url = info.requestUrl();
     if (!isKnownScheme(url.scheme()))
         return info.block(true);
+    // Nothing judges the sockets of such a worker, which outlives its page.
+    if (info.resourceType() == QWebEngineUrlRequestInfo::ResourceTypeServiceWorker)
+        return info.block(true);
     // Whole pages are judged by the page, which knows what the program asked for.
     if (info.resourceType() == QWebEngineUrlRequestInfo::ResourceTypeMainFrame || url.host().isEmpty() ||
         url.scheme() == QLatin1String(PageScheme::name))

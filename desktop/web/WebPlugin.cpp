@@ -50,6 +50,11 @@ void blockPrivateNetwork() {
     addSwitch("--enable-features=BlockInsecurePrivateNetworkRequestsFromUnknown,BlockInsecurePrivateNetworkRequestsForNavigations");
 }
 
+/// Nothing judges where these two connect to: workers that belong to no page, and sessions of the WebTransport draft of the W3C.
+void blockUnjudgedConnections() {
+    addSwitch("--disable-blink-features=SharedWorker,WebTransport");
+}
+
 } // namespace
 
 WebPlugin::WebPlugin() {
@@ -57,6 +62,7 @@ WebPlugin::WebPlugin() {
     shareGraphics();
     followColorScheme();
     blockPrivateNetwork();
+    blockUnjudgedConnections();
     PageScheme::registerScheme();
 }
 

@@ -43,7 +43,10 @@ protected:
         events.didFinish = [this] { ++finished; };
         events.progressDidChange = [this] { progress.push_back(page->progress()); };
         events.titleDidChange = [this] { titles.push_back(page->title().toStdString()); };
-        events.processDidTerminate = [this] { ++terminated; };
+        events.processDidTerminate = [this] {
+            ++terminated;
+            progressAtEnd = page->progress();
+        };
         page->setEvents(std::move(events));
         window.show();
     }
@@ -76,6 +79,7 @@ protected:
     std::unique_ptr<WebPageView> page;
     std::vector<std::string> links, titles;
     std::vector<double> progress;
+    double progressAtEnd = 0; ///< of the process
     int started = 0, finished = 0, terminated = 0;
 };
 

@@ -1,3 +1,4 @@
+#include "tests/desktop/UrlOpener.hpp"
 #include "tests/desktop/WebPluginFixture.hpp"
 
 #include <QApplication>
@@ -10,6 +11,18 @@ namespace brindle::desktop {
 /// What a page may ask of a person.
 class WebPluginPermissionsTest : public WebPluginTest {
 protected:
+    /// Presses a link on a page of its own, until it is asked about.
+    void pressLink(const std::string& address) {
+        showBody("<title>page</title><a href='" + address + "' style='position:fixed;inset:0'>link</a>");
+        ASSERT_TRUE(runEventLoop([&] { return finished == 1; }));
+        ASSERT_TRUE(runEventLoop([&] {
+            clickCorner();
+            return !links.empty();
+        }));
+        EXPECT_EQ(links.front(), address);
+        EXPECT_TRUE(runEventLoop([&] { return page->progress() == 1; }));
+        EXPECT_EQ(page->title().toStdString(), "page");
+    }
     /// Whether no other window is on the screen.
     bool isAlone() const {
         const QWidgetList windows = QApplication::topLevelWidgets();
@@ -18,15 +31,7 @@ protected:
 };
 
 TEST_F(WebPluginPermissionsTest, AsksAboutALinkThatAPersonPresses) {
-    showBody("<title>page</title><a href='https://example.test/there' style='position:fixed;inset:0'>link</a>");
-    ASSERT_TRUE(runEventLoop([&] { return finished == 1; }));
-    ASSERT_TRUE(runEventLoop([&] {
-        clickCorner();
-        return !links.empty();
-    }));
-    EXPECT_EQ(links.front(), "https://example.test/there");
-    EXPECT_EQ(page->title().toStdString(), "page");
-    EXPECT_EQ(page->progress(), 1);
+    pressLink("https://example.test/there");
 }
 
 TEST_F(WebPluginPermissionsTest, TakesALinkForANewWindowAsAnyOther) {
@@ -37,6 +42,33 @@ TEST_F(WebPluginPermissionsTest, TakesALinkForANewWindowAsAnyOther) {
         return !links.empty();
     }));
     EXPECT_EQ(links.front(), "https://example.test/new");
+}
+
+TEST_F(WebPluginPermissionsTest, AsksAboutALinkForALetter) {
+    const UrlOpener others({"mailto"});
+    pressLink("mailto:ant@example.test");
+    EXPECT_TRUE(others.opened.empty());
+}
+
+TEST_F(WebPluginPermissionsTest, AsksAboutALinkForAFeed) {
+    const UrlOpener others({"feed"});
+    pressLink("feed://example.test/feed");
+    EXPECT_TRUE(others.opened.empty());
+}
+
+TEST_F(WebPluginPermissionsTest, StartsNoOtherProgram) {
+    const UrlOpener others({"mailto", "tel"});
+    showBody("<iframe></iframe><a href='tel:1'>tel</a><div style='position:fixed;inset:0'></div><script>onmousedown = () => {"
+             "frames[0].location = 'mailto:ant@example.test'; setTimeout(() => document.links[0].click(), 50);"
+             "setTimeout(() => location = 'tel:2', 100); setTimeout(() => document.title = 'done', 300) }</script>");
+    ASSERT_TRUE(runEventLoop([&] { return finished == 1; }));
+    ASSERT_TRUE(runEventLoop([&] {
+        if (page->title().isEmpty())
+            clickCorner();
+        return page->title() == QLatin1String("done");
+    }));
+    EXPECT_TRUE(links.empty());
+    EXPECT_TRUE(others.opened.empty());
 }
 
 TEST_F(WebPluginPermissionsTest, TakesAScriptForNoPerson) {

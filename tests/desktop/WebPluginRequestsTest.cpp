@@ -150,8 +150,38 @@ TEST_F(WebPluginRequestsTest, OffersNoCallsToAPageAndItsFrames) {
 }
 
 TEST_F(WebPluginRequestsTest, HasNoSessionsThatNobodyJudges) {
-    showBody("<script>document.title = [typeof WebTransport, typeof navigator.serviceWorker].join()</script>");
-    EXPECT_TRUE(waitForTitle("undefined,undefined"));
+    // This machine counts as safe, so it is offered whatever there is.
+    server->route("/offered", HTTPServer::document(R"(<script>
+        const own = [isSecureContext, typeof WebTransport, typeof navigator.serviceWorker, typeof SharedWorker];
+        const source = 'postMessage([typeof WebTransport, typeof navigator.serviceWorker])';
+        new Worker(URL.createObjectURL(new Blob([source]))).onmessage = (event) => document.title = own.concat(event.data).join();
+    </script>)",
+                                  "text/html"));
+    load("/offered");
+    EXPECT_TRUE(waitForTitle("true,undefined,undefined,undefined,undefined,undefined"));
+}
+
+TEST_F(WebPluginRequestsTest, LoadsNoServiceWorkerForAPageThatFindsTheWayToIt) {
+    server->route("/service.js", HTTPServer::document("/* nothing */", "text/javascript"));
+    server->route("/finder", HTTPServer::document(R"(<body><script>
+        const frame = document.body.appendChild(document.createElement('iframe'));
+        const way = Object.getOwnPropertyDescriptor(frame.contentWindow.Navigator.prototype, 'serviceWorker').get;
+        way.call(navigator).register('/service.js').then(() => document.title = 'registered', () => document.title = 'refused');
+    </script>)",
+                                 "text/html"));
+    load("/finder");
+    EXPECT_TRUE(waitForTitle("refused"));
+    EXPECT_EQ(server->requestCount("/service.js"), 0U);
+}
+
+TEST_F(WebPluginRequestsTest, HasNoWorkersThatBelongToNoPage) {
+    const std::string address = "ws" + server->origin().substr(4);
+    showBody("<script>const source = `onconnect = (event) => new WebSocket('" + address +
+             "/shared').onerror = () => event.ports[0].postMessage('asked')`; try {"
+             "new SharedWorker(URL.createObjectURL(new Blob([source]))).port.onmessage = (event) => document.title = event.data;"
+             "} catch { document.title = 'refused' }</script>");
+    EXPECT_TRUE(waitForTitle("refused"));
+    EXPECT_EQ(server->requestCount("/shared"), 0U);
 }
 
 TEST_F(WebPluginRequestsTest, LeavesAPageForNoneThatItMadeItself) {

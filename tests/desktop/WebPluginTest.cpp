@@ -40,6 +40,18 @@ TEST_F(WebPluginTest, TellsOfADeadProcessAndLoadsThePageAgain) {
     EXPECT_EQ(page->title().toStdString(), "alive");
 }
 
+TEST_F(WebPluginTest, IsOnItsWayNoLongerWhenItsProcessIsDead) {
+    HTTPServer::Response silent = HTTPServer::document("", "image/png");
+    silent.fault = HTTPServer::Response::Fault::hang;
+    server->route("/never.png", silent);
+    server->route("/dying", HTTPServer::document("<img src='/never.png'>", "text/html"));
+    load("/dying");
+    ASSERT_TRUE(runEventLoop([&] { return server->requestCount("/never.png") == 1; }));
+    ASSERT_GT(killPageProcesses(), 0U);
+    ASSERT_TRUE(runEventLoop([&] { return terminated == 1; }));
+    EXPECT_EQ(progressAtEnd, 1);
+}
+
 TEST_F(WebPluginTest, ScrollsByPagesUntilTheEnd) {
     showBody("<div style='height:500px'>tall</div>");
     ASSERT_TRUE(runEventLoop([&] { return finished == 1; }));
