@@ -15,7 +15,8 @@ namespace brindle::desktop {
 
 namespace {
 
-constexpr int margin = 8; // points
+constexpr int margin = 8;                  // points
+constexpr qsizetype longestText = 200'000; // of HTML, which is laid out while all else waits
 
 /// Shows a text, and fetches nothing that it names.
 class TextBrowser : public QTextBrowser {
@@ -25,6 +26,15 @@ public:
 protected:
     QVariant loadResource(int, const QUrl&) override { return QByteArray(""); }
 };
+
+/// As RFC 3986 has it: brackets are around the address of a host and nowhere else. Browsers let them stand in the rest of an address.
+std::string strictAddress(const QUrl& url) {
+    const auto beforeRest = QUrl::FullyEncoded | QUrl::RemovePath | QUrl::RemoveQuery | QUrl::RemoveFragment;
+    const QString host = url.toString(beforeRest);
+    QString rest = url.toString(QUrl::FullyEncoded).mid(host.size());
+    rest.replace(QLatin1Char('['), QLatin1String("%5B")).replace(QLatin1Char(']'), QLatin1String("%5D"));
+    return fromQString(host + rest);
+}
 
 /// Stands where the original page would.
 std::string pageOfLink(const std::string& address) {
@@ -110,8 +120,7 @@ WebPageView::Events ArticleWebView::events() {
 
 bool ArticleWebView::allows(NavigationAction::Type type, const QUrl& url) const {
     const auto delegate = _delegate.lock();
-    const std::string address = url.toString(QUrl::FullyEncoded).toStdString();
-    return delegate && delegate->decidePolicy({type, URL::make(address)}) == NavigationPolicy::allow;
+    return delegate && delegate->decidePolicy({type, URL::make(strictAddress(url))}) == NavigationPolicy::allow;
 }
 
 /// Made when it is first needed, in place of the page.
@@ -151,7 +160,7 @@ void ArticleWebView::load(const WebRequest& request) {
 
 /// It is there at once.
 void ArticleWebView::showText(const QString& html) {
-    text().setHtml(html);
+    text().setHtml(shortened(html, longestText));
     if (const auto delegate = _delegate.lock()) {
         delegate->estimatedProgressDidChange();
         delegate->didFinishNavigation();

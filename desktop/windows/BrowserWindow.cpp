@@ -130,7 +130,11 @@ void BrowserWindow::addListKeys(FeedsBrowserSplitViewController& panes) {
             feeds.deleteFeed();
     };
     ListKeys::Handlers inArticles = paging;
-    inArticles.returnKey = [&article = panes.articleViewController()] { article.openInWebBrowser(); };
+    inArticles.returnKey = [this, &article = panes.articleViewController()] {
+        // Without a selection, the pane may still show an article that isn't listed any more.
+        if (_articlesView->selectedRow())
+            article.openInWebBrowser();
+    };
     new ListKeys(&_feedsView->widget(), inFeeds);
     new ListKeys(&_articlesView->widget(), inArticles);
 }

@@ -12,13 +12,15 @@ namespace brindle::desktop {
 
 class PlayerControls;
 
-/// The controls of a player, below the video where there is one. The widget belongs to its parent. Thread: main.
+/// The controls of a player, below the video where there is one. Where the system has nothing to play with, its players fail. The widget
+/// belongs to its parent. Thread: main.
 class MediaPlayerView : public PlayerView {
 public:
     explicit MediaPlayerView(QWidget* parent);
 
     QWidget& widget() const { return *_widget; }
-    QtPlayer* shownPlayer() const { return _player.get(); }
+    /// Null for none, and for one that can't play.
+    QtPlayer* shownPlayer() const { return dynamic_cast<QtPlayer*>(_player.get()); }
 
     std::shared_ptr<Player> makePlayer(const URL& url) override;
     std::shared_ptr<Player> player() const override { return _player; }
@@ -26,9 +28,9 @@ public:
 
 private:
     QWidget* const _widget;
-    QVideoWidget* const _video;
+    QVideoWidget* const _video; ///< null where there is nothing to play with
     PlayerControls* const _controls;
-    std::shared_ptr<QtPlayer> _player;
+    std::shared_ptr<Player> _player;
 };
 
 } // namespace brindle::desktop

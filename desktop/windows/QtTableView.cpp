@@ -154,15 +154,26 @@ void QtTableView::reloadData() {
     _model->reloadData();
     if (!selected)
         return;
-    // The same rows with new ones above or below them, or other rows altogether: what is selected stays so, or nothing is.
-    for (const int place : {row + _model->rowCount() - before, row}) {
-        if (place >= 0 && place < _model->rowCount() && rowName(place) == _selectedName) {
-            _isRestoring = true;
-            select(place);
-            _isRestoring = false;
-            return;
+    // The same rows with new ones among them or some gone, or other rows altogether: what is selected stays so, or nothing is.
+    if (const auto place = placeOfSelected(row, row + _model->rowCount() - before)) {
+        _isRestoring = true;
+        select(*place);
+        _isRestoring = false;
+    }
+}
+
+/// Rows mostly come above the others; else the nearest of the rows of that name is the likeliest.
+std::optional<int> QtTableView::placeOfSelected(int row, int moved) const {
+    const auto isThere = [this](int place) { return place >= 0 && place < _model->rowCount() && rowName(place) == _selectedName; };
+    if (isThere(moved))
+        return moved;
+    for (int distance = 0; row - distance >= 0 || row + distance < _model->rowCount(); ++distance) {
+        for (const int place : {row - distance, row + distance}) {
+            if (isThere(place))
+                return place;
         }
     }
+    return std::nullopt;
 }
 
 void QtTableView::reloadRow(std::size_t row, const std::vector<std::string_view>& columns) {
@@ -194,7 +205,13 @@ std::optional<std::size_t> QtTableView::selectedRow() const {
 void QtTableView::selectRow(std::size_t row) {
     if (row >= static_cast<std::size_t>(_model->rowCount()))
         return;
+    const bool wasSelected = selectedRow() == row;
     select(static_cast<int>(row));
+    // What such a row stands for may not be what is shown.
+    if (const auto source = _model->dataSource().lock(); source && wasSelected) {
+        _isRestored = false;
+        source->tableViewSelectionDidChange();
+    }
     _table->scrollTo(_table->currentIndex());
 }
 

@@ -29,7 +29,8 @@ public:
     QTableView& widget() const { return *_table; }
     /// What is told where there are no rows; asked at each drawing.
     void setEmptyText(std::function<QString()> text);
-    /// Selects a row alone and scrolls to it; nothing beyond the last.
+    /// Selects a row alone and scrolls to it, and tells the data source, of a row that was selected already as well; nothing beyond the
+    /// last.
     void selectRow(std::size_t row);
     /// Without a word to the data source.
     void deselectAll();
@@ -44,6 +45,7 @@ public:
 
 private:
     QString rowName(int row) const;
+    std::optional<int> placeOfSelected(int row, int moved) const;
     void select(int row);
 
     const QPointer<QTableView> _table;

@@ -84,6 +84,22 @@ TEST_F(ArticleWebViewTest, AsksAboutALinkInATextAndStays) {
     EXPECT_EQ(text.toPlainText().toStdString(), "there");
 }
 
+TEST_F(ArticleWebViewTest, TellsTheBracketsOfAnAddressInTheirStrictForm) {
+    plain().loadHTMLString("<a href='https://[::1]/a[1]?b[]=2#[c]'>there</a>", std::nullopt);
+    emit view->textBrowser()->anchorClicked(QUrl(QStringLiteral("https://[::1]/a[1]?b[]=2#[c]")));
+    EXPECT_EQ(delegate->links, std::vector<std::string>{"https://[::1]/a%5B1%5D?b%5B%5D=2#%5Bc%5D"});
+}
+
+TEST_F(ArticleWebViewTest, ShowsTheBeginningOfATextThatIsTooLong) {
+    std::string text;
+    for (int i = 0; i < 100'000; ++i)
+        text += "<p>word word";
+    plain().loadHTMLString(text, std::nullopt);
+    const qsizetype shown = view->textBrowser()->toPlainText().size();
+    EXPECT_GT(shown, 100'000);
+    EXPECT_LE(shown, 200'000);
+}
+
 TEST_F(ArticleWebViewTest, OffersTheAddressOfAPageThatItCannotShow) {
     plain().load({URL::make("https://example.test/?a=1&b=2").value()});
     const std::string text = view->textBrowser()->toPlainText().toStdString();

@@ -37,6 +37,17 @@ TEST_F(BrowserWindowKeysTest, ReturnOpensTheArticleInTheWebBrowser) {
     EXPECT_THAT(takeCalls(), ElementsAre("openURL http://a.test/one"));
 }
 
+TEST_F(BrowserWindowKeysTest, ReturnOpensNothingWhereNoArticleIsSelected) {
+    const auto item = add(makeItem("Alpha", {"one"}));
+    show();
+    select(item);
+    QTest::keyClick(&articles(), Qt::Key_Down);
+    made.window->articlesView()->deselectAll();
+    takeCalls();
+    QTest::keyClick(&articles(), Qt::Key_Return);
+    EXPECT_THAT(takeCalls(), IsEmpty());
+}
+
 TEST_F(BrowserWindowKeysTest, ReturnEditsTheFeed) {
     const auto item = add(makeItem("Alpha"));
     show();

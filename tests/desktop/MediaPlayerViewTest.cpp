@@ -5,8 +5,10 @@
 #include "tests/support/HTTPServer.hpp"
 
 #include <QLabel>
+#include <QScopeGuard>
 #include <QSlider>
 #include <QToolButton>
+#include <QVideoWidget>
 #include <QtEndian>
 
 namespace brindle::desktop {
@@ -149,6 +151,22 @@ TEST_F(MediaPlayerViewTest, PlaysNoFiles) {
     play("file:///usr/share/sounds/alsa/Noise.wav");
     ASSERT_TRUE(waitUntil([&] { return !alerts->alerts.empty(); }));
     EXPECT_NE(alerts->alerts[0].informativeText.find("Only what is on the network can be played."), std::string::npos);
+}
+
+TEST_F(MediaPlayerViewTest, FailsWhereThereIsNothingToPlayWith) {
+    qputenv("QT_MEDIA_BACKEND", "nothing");
+    const auto restore = qScopeGuard([] { qunsetenv("QT_MEDIA_BACKEND"); });
+    player = makeMediaPlayer({environment.defaults, {}}, alerts);
+    QMainWindow& shown = play(server.origin() + "/talk.wav");
+    ASSERT_EQ(alerts->alerts.size(), 1U);
+    EXPECT_EQ(alerts->alerts[0].messageText, "Loading failed!");
+    EXPECT_NE(alerts->alerts[0].informativeText.find("This system has nothing that plays audio and video."), std::string::npos);
+    EXPECT_TRUE(shown.isVisible());
+    EXPECT_EQ(shown.findChild<QVideoWidget*>(), nullptr);
+    play(server.origin() + "/other.wav");
+    EXPECT_TRUE(waitUntil([&] { return alerts->alerts.size() == 2; }));
+    QTest::keyClick(&shown, Qt::Key_Escape);
+    EXPECT_FALSE(shown.isVisible());
 }
 
 TEST_F(MediaPlayerViewTest, StopsWhenItIsClosed) {

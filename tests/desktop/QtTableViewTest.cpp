@@ -1,6 +1,7 @@
 #include "desktop/windows/QtTableView.hpp"
 
 #include "Brindle/browser/GroupTableCellView.hpp"
+#include "tests/desktop/ToolTip.hpp"
 
 #include <QTest>
 #include <gmock/gmock.h>
@@ -126,6 +127,38 @@ TEST_F(QtTableViewTest, NothingIsSelectedAmongOtherRows) {
     view.selectRow(1);
     reload({"x", "y"});
     EXPECT_THAT(view.selectedRows(), IsEmpty());
+}
+
+TEST_F(QtTableViewTest, TheSelectedRowStaysSelectedWhereverItGoes) {
+    show({"a", "b", "c", "d"});
+    view.selectRow(2);
+    reload({"b", "c", "d", "e"});
+    EXPECT_THAT(view.selectedRows(), ElementsAre(1));
+    reload({"e", "b", "d", "c"});
+    EXPECT_THAT(view.selectedRows(), ElementsAre(3));
+    EXPECT_EQ(source->changes, 1);
+}
+
+TEST_F(QtTableViewTest, OfRowsOfOneNameTheNearestStaysSelected) {
+    show({"same", "b", "c", "same"});
+    view.selectRow(3);
+    reload({"same", "c", "same", "d"});
+    EXPECT_THAT(view.selectedRows(), ElementsAre(2));
+}
+
+TEST_F(QtTableViewTest, TellsOfARowThatIsSelectedOnceMore) {
+    show({"a", "b"});
+    view.selectRow(1);
+    reload({"a", "b", "c"});
+    view.selectRow(1);
+    EXPECT_EQ(source->changes, 2);
+    EXPECT_THAT(view.selectedRows(), ElementsAre(1));
+}
+
+TEST_F(QtTableViewTest, ShowsANameAsItIsInAToolTip) {
+    show({"<img src='file:///x'> & more"});
+    const QString tip = view.widget().model()->index(0, 1).data(Qt::ToolTipRole).toString();
+    EXPECT_EQ(readToolTip(tip), "<img src='file:///x'> & more");
 }
 
 TEST_F(QtTableViewTest, HidesAColumn) {
