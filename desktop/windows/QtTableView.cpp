@@ -167,7 +167,8 @@ std::optional<int> QtTableView::placeOfSelected(int row, int moved) const {
     const auto isThere = [this](int place) { return place >= 0 && place < _model->rowCount() && rowName(place) == _selectedName; };
     if (isThere(moved))
         return moved;
-    for (int distance = 0; row - distance >= 0 || row + distance < _model->rowCount(); ++distance) {
+    constexpr int farthest = 500; // rows: of a long list, that many are looked at in no time
+    for (int distance = 0; distance <= farthest; ++distance) {
         for (const int place : {row - distance, row + distance}) {
             if (isThere(place))
                 return place;
