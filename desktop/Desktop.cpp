@@ -20,6 +20,7 @@
 #include "desktop/toolkit/Text.hpp"
 #include "desktop/windows/Dialogs.hpp"
 #include "desktop/windows/QtWindowFactory.hpp"
+#include "foundation/FormattedText.hpp"
 #include "foundation/LocalizedStrings.hpp"
 
 #include <QApplication>
@@ -178,10 +179,7 @@ std::string Desktop::failingFeeds() const {
     const auto items = FeedsManager::items(_delegate->feedsManager()->feeds);
     const auto count = std::count_if(items.begin(), items.end(),
         [&](const std::shared_ptr<FeedItem>& item) { return item->lastConnectionFailed() && !_newsFeed.isNews(item->url()); });
-    std::string text = count == 0 ? std::string() : localized("Feeds that can't be reached: %d");
-    if (const auto place = text.find("%d"); place != std::string::npos)
-        text.replace(place, 2, std::to_string(count));
-    return text;
+    return count == 0 ? std::string() : formatted(localized("Feeds that can't be reached: %d"), {std::to_string(count)});
 }
 
 void Desktop::followStatusArea() {

@@ -5,6 +5,7 @@
 #include "desktop/windows/WebPluginLoader.hpp"
 #include "foundation/FileLock.hpp"
 #include "foundation/FileManager.hpp"
+#include "foundation/FormattedText.hpp"
 #include "foundation/LocalizedStrings.hpp"
 #include "foundation/UserLocale.hpp"
 
@@ -61,12 +62,8 @@ bool handOver(const SingleInstance& instance, const Options& options, const QVar
 /// Tells of the files that can't be opened, each in a line of its own; empty where all can.
 std::string takeMissingFiles(Options& options) {
     std::string text;
-    for (const fs::path& file : options.takeMissingFiles()) {
-        std::string line = localized("This file doesn't exist: %@");
-        if (const auto place = line.find("%@"); place != std::string::npos)
-            line.replace(place, 2, file.string());
-        text += (text.empty() ? "" : "\n") + line;
-    }
+    for (const fs::path& file : options.takeMissingFiles())
+        text += (text.empty() ? "" : "\n") + formatted(localized("This file doesn't exist: %@"), {file.string()});
     return text;
 }
 

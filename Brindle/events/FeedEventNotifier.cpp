@@ -3,36 +3,16 @@
 #include "Brindle/library/PreferenceKeys.hpp"
 #include "foundation/Console.hpp"
 #include "foundation/FatalError.hpp"
+#include "foundation/FormattedText.hpp"
 #include "foundation/LocalizedStrings.hpp"
 #include "foundation/RunLoop.hpp"
 
 #include <algorithm>
 #include <cstddef>
 #include <optional>
-#include <string_view>
 #include <utility>
 
 namespace brindle {
-
-namespace {
-
-/// A format's text with its "%@" and "%d" replaced by `values` in order. What has no value stays.
-std::string formatted(std::string_view format, const std::vector<std::string>& values) {
-    std::string text;
-    std::size_t used = 0;
-    for (std::size_t at = 0; at < format.size(); ++at) {
-        const std::string_view place = format.substr(at, 2);
-        if ((place == "%@" || place == "%d") && used < values.size()) {
-            text += values[used++];
-            ++at;
-        } else {
-            text += format[at];
-        }
-    }
-    return text;
-}
-
-} // namespace
 
 std::string FeedEventNotifier::Event::title() const {
     switch (kind) {

@@ -2,6 +2,7 @@
 
 #include "Brindle/browser/ChangeNotices.hpp"
 #include "Brindle/shell/FeedsPickerViewController.hpp"
+#include "foundation/FormattedText.hpp"
 #include "foundation/LocalizedStrings.hpp"
 #include "foundation/RunLoop.hpp"
 
@@ -22,10 +23,8 @@ std::string rateTitle(std::int64_t minutes) {
         return localized("Every minute");
     if (minutes == hour)
         return localized("Every hour");
-    std::string title = isHours ? localized("Every %d hours") : localized("Every %d minutes");
-    if (const std::size_t place = title.find("%d"); place != std::string::npos)
-        title.replace(place, 2, std::to_string(isHours ? minutes / hour : minutes));
-    return title;
+    return isHours ? formatted(localized("Every %d hours"), {std::to_string(minutes / hour)})
+                   : formatted(localized("Every %d minutes"), {std::to_string(minutes)});
 }
 
 } // namespace
