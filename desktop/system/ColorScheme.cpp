@@ -1,5 +1,7 @@
 #include "desktop/system/ColorScheme.hpp"
 
+#include "desktop/toolkit/Palettes.hpp"
+
 #include <QApplication>
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
@@ -48,10 +50,6 @@ QPalette ColorScheme::darkPalette() {
     for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::HighlightedText})
         palette.setColor(QPalette::Disabled, role, faint);
     return palette;
-}
-
-bool ColorScheme::isDark(const QPalette& palette) {
-    return palette.color(QPalette::WindowText).lightness() > palette.color(QPalette::Window).lightness();
 }
 
 void ColorScheme::ask() {

@@ -16,8 +16,6 @@ class ColorScheme : public QObject {
 public:
     explicit ColorScheme(QDBusConnection bus);
 
-    /// Whether letters are lighter than what is behind them.
-    static bool isDark(const QPalette& palette);
     /// Those that the program has of its own.
     static QPalette darkPalette();
 

@@ -1,5 +1,6 @@
 #include "desktop/system/ColorScheme.hpp"
 
+#include "desktop/toolkit/Palettes.hpp"
 #include "tests/desktop/EventLoop.hpp"
 #include "tests/desktop/PrivateBus.hpp"
 #include "tests/desktop/SettingsPortalFake.hpp"
@@ -19,7 +20,7 @@ protected:
         QApplication::setPalette(_palette);
     }
 
-    static bool isDark() { return ColorScheme::isDark(QApplication::palette()); }
+    static bool isDark() { return desktop::isDark(QApplication::palette()); }
 
     PrivateBus _bus;
     const QPalette _palette = QApplication::palette();

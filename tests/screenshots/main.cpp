@@ -5,6 +5,7 @@
 #include "desktop/system/ColorScheme.hpp"
 #include "desktop/system/StatusIcon.hpp"
 #include "desktop/toolkit/MenuView.hpp"
+#include "desktop/toolkit/Palettes.hpp"
 #include "desktop/toolkit/Text.hpp"
 #include "foundation/Console.hpp"
 #include "foundation/LocalizedStrings.hpp"
@@ -121,7 +122,7 @@ private:
     /// As when the desktop goes from light to dark, or back.
     void takeOtherColors(QWidget& window) {
         const QPalette before = QApplication::palette();
-        QApplication::setPalette(ColorScheme::isDark(before) ? _lightPalette : ColorScheme::darkPalette());
+        QApplication::setPalette(isDark(before) ? _lightPalette : ColorScheme::darkPalette());
         take(&window, "browser-other-colors");
         QApplication::setPalette(before);
         Camera::settle();
