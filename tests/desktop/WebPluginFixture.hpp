@@ -73,6 +73,19 @@ protected:
         ASSERT_NE(inner, nullptr);
         QTest::mouseClick(inner, Qt::LeftButton, {}, QPoint(20, 20));
     }
+    /// Presses it until the page has a title: it may not be ready for the first.
+    bool clickCornerUntilTitled() {
+        return runEventLoop([&] {
+            clickCorner();
+            return !page->title().isEmpty();
+        });
+    }
+    /// The server takes the request, and says nothing.
+    static HTTPServer::Response silence(const std::string& type) {
+        HTTPServer::Response response = HTTPServer::document("", type);
+        response.fault = HTTPServer::Response::Fault::hang;
+        return response;
+    }
 
     static inline HTTPServer* server = nullptr;
     QWidget window;

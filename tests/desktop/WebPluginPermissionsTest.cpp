@@ -84,10 +84,7 @@ TEST_F(WebPluginPermissionsTest, RefusesPopups) {
              "\"width=200,height=100\")"
              " === null ? \"refused\" : \"opened\"'></div>");
     ASSERT_TRUE(runEventLoop([&] { return finished == 1; }));
-    ASSERT_TRUE(runEventLoop([&] {
-        clickCorner();
-        return !page->title().isEmpty();
-    }));
+    ASSERT_TRUE(clickCornerUntilTitled());
     EXPECT_TRUE(links.empty());
     EXPECT_TRUE(isAlone());
 }
@@ -104,10 +101,7 @@ TEST_F(WebPluginPermissionsTest, FillsNoScreen) {
     showBody("<div style='position:fixed;inset:0' onclick='document.documentElement.requestFullscreen().then(() => document.title = "
              "\"filled\", () => document.title = \"refused\")'></div>");
     ASSERT_TRUE(runEventLoop([&] { return finished == 1; }));
-    ASSERT_TRUE(runEventLoop([&] {
-        clickCorner();
-        return !page->title().isEmpty();
-    }));
+    ASSERT_TRUE(clickCornerUntilTitled());
     EXPECT_EQ(page->title().toStdString(), "refused");
 }
 
@@ -115,10 +109,7 @@ TEST_F(WebPluginPermissionsTest, ChoosesNoFile) {
     showBody(
         "<input type=file style='position:fixed;inset:0' onclick='setTimeout(() => document.title = \"files: \" + files.length, 300)'>");
     ASSERT_TRUE(runEventLoop([&] { return finished == 1; }));
-    ASSERT_TRUE(runEventLoop([&] {
-        clickCorner();
-        return !page->title().isEmpty();
-    }));
+    ASSERT_TRUE(clickCornerUntilTitled());
     EXPECT_EQ(page->title().toStdString(), "files: 0");
     EXPECT_TRUE(isAlone());
 }

@@ -41,9 +41,7 @@ TEST_F(WebPluginTest, TellsOfADeadProcessAndLoadsThePageAgain) {
 }
 
 TEST_F(WebPluginTest, IsOnItsWayNoLongerWhenItsProcessIsDead) {
-    HTTPServer::Response silent = HTTPServer::document("", "image/png");
-    silent.fault = HTTPServer::Response::Fault::hang;
-    server->route("/never.png", silent);
+    server->route("/never.png", silence("image/png"));
     server->route("/dying", HTTPServer::document("<img src='/never.png'>", "text/html"));
     load("/dying");
     ASSERT_TRUE(runEventLoop([&] { return server->requestCount("/never.png") == 1; }));
@@ -81,9 +79,7 @@ TEST_F(WebPluginTest, IsNotAtItsEndBeforeThePageIsThere) {
 }
 
 TEST_F(WebPluginTest, ScrollsAPageWhoseImagesAreOnTheirWay) {
-    HTTPServer::Response silent = HTTPServer::document("", "image/png");
-    silent.fault = HTTPServer::Response::Fault::hang;
-    server->route("/slow.png", silent);
+    server->route("/slow.png", silence("image/png"));
     server->route("/slow", HTTPServer::document("<title>read</title><img src='/slow.png'>", "text/html"));
     load("/slow");
     ASSERT_TRUE(runEventLoop([&] { return server->requestCount("/slow.png") == 1; }));
@@ -133,9 +129,7 @@ TEST_F(WebPluginTest, GoesBackAndForward) {
 }
 
 TEST_F(WebPluginTest, GivesUpAfterTheTime) {
-    HTTPServer::Response silent = HTTPServer::document("", "text/html");
-    silent.fault = HTTPServer::Response::Fault::hang;
-    server->route("/silent", silent);
+    server->route("/silent", silence("text/html"));
     load("/silent", 0.2);
     EXPECT_TRUE(runEventLoop([&] { return started == 1 && !progress.empty() && progress.back() == 1; }));
     EXPECT_EQ(finished, 0);
